@@ -1,0 +1,16 @@
+# What every target of the project is compiled with; a library of ours links kordavan_options privately.
+add_library(kordavan_options INTERFACE)
+
+target_compile_options(kordavan_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(KORDAVAN_WARNINGS_AS_ERRORS)
+  target_compile_options(kordavan_options INTERFACE -Werror)
+endif()
+
+# Debug, release and every processor agree on a member that passes by a hair.
+target_compile_options(kordavan_options INTERFACE -ffp-contract=off)
+
+if(KORDAVAN_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(${sanitizers})
+  add_link_options(${sanitizers})
+endif()

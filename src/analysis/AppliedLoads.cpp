@@ -1,0 +1,335 @@
+#include "analysis/AppliedLoads.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include "analysis/ContinuousSpan.h"
+#include "analysis/EquivalentLoads.h"
+#include "analysis/LoadView.h"
+#include "analysis/Stations.h"
+#include "core/NumberText.h"
+
+namespace kordavan {
+
+namespace {
+
+double PartialLoad(const LoadView& loads, std::size_t k)
+{
+    return loads.Partial[k] * (loads.End[k] - loads.Begin[k]);
+}
+
+double PartialCentre(const LoadView& loads, std::size_t k)
+{
+    return (loads.End[k] - loads.Begin[k]) / 2 + loads.Begin[k];
+}
+
+double SumPoints(const LoadView& loads)
+{
+    double sum = 0;
+    for (const double load : loads.Point) {
+        sum += load;
+    }
+    return sum;
+}
+
+double SumPartials(const LoadView& loads)
+{
+    double sum = 0;
+    for (std::size_t k = 0; k < PartialSlotCount; ++k) {
+        sum += PartialLoad(loads, k);
+    }
+    return sum;
+}
+
+/// Moment about R2 of what lies between R1 and R2, ft-lb.
+double SpanMomentAboutR2(double span, const LoadView& loads, SpanSlots slots)
+{
+    double moment = loads.Uniform * span * (span / 2);
+    for (std::size_t k = 0; k < slots.Points; ++k) {
+        moment += loads.Point[k] * (span - loads.Distance[k]);
+    }
+    for (std::size_t k = 0; k < slots.Partials; ++k) {
+        moment += PartialLoad(loads, k) * (span - PartialCentre(loads, k));
+    }
+    return moment;
+}
+
+/// Moment about R2 of what lies on the overhang, ft-lb.
+double OverhangMomentAboutR2(const LoadView& loads)
+{
+    double moment = 0;
+    for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
+        moment += loads.Point[k] * loads.Distance[k];
+    }
+    for (std::size_t k = FirstOverhangPartial; k < PartialSlotCount; ++k) {
+        moment += PartialLoad(loads, k) * PartialCentre(loads, k);
+    }
+    return moment;
+}
+
+double OverhangLoad(const LoadView& loads)
+{
+    double sum = 0;
+    for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
+        sum += loads.Point[k];
+    }
+    for (std::size_t k = FirstOverhangPartial; k < PartialSlotCount; ++k) {
+        sum += PartialLoad(loads, k);
+    }
+    return sum;
+}
+
+double ReactionAtR1(const BeamNumbers& beam, const LoadView& loads)
+{
+    const double overhangMoment = beam.IsOverhanging() ? OverhangMomentAboutR2(loads) : 0;
+    return (SpanMomentAboutR2(beam.Span, loads, SlotsOnSpan(beam.Support)) - overhangMoment) / beam.Span;
+}
+
+/// Net columns are summed in double and rounded once, so that a level stretch of moment stays level.
+struct NetSums {
+    std::array<double, StationTable::PaddedCount> Moment{};
+    std::array<double, StationTable::PaddedCount> Shear{};
+};
+
+struct StationRange {
+    int First;
+    int End;  // one past the last
+};
+
+class StationFiller {
+public:
+    StationFiller(double span, StationTable& stations) : line{span, LastStation}, table(stations)
+    {
+        table.Clear();
+        StationTable::Column& position = table[StationColumn::Position];
+        for (std::size_t i = 0; i < StationCount; ++i) {
+            place[i] = line.PlaceOf(static_cast<int>(i));
+            position[i] = Single(place[i]);
+        }
+    }
+
+    void AddPoint(std::size_t slot, double load, double distance)
+    {
+        const StationRange beyond{line.FirstBeyond(distance), StationCount};
+        AddConcentrated(beyond, load, distance, table.ForSlot(StationColumn::PointMoment, slot),
+                        table.ForSlot(StationColumn::PointShear, slot));
+    }
+
+    void AddPartial(std::size_t slot, double load, double begin, double end)
+    {
+        StationTable::Column& moment = table.ForSlot(StationColumn::PartialMoment, slot);
+        StationTable::Column& shear = table.ForSlot(StationColumn::PartialShear, slot);
+        const int firstBeyondEnd = line.FirstBeyond(end);
+        AddSpread({line.FirstBeyond(begin), firstBeyondEnd}, load, begin, moment, shear);
+        AddConcentrated({firstBeyondEnd, StationCount}, load * (end - begin), (end - begin) / 2 + begin, moment, shear);
+    }
+
+    void FillNetColumns(double reaction, double uniform)
+    {
+        StationTable::Column& moment = table[StationColumn::Moment];
+        StationTable::Column& shear = table[StationColumn::Shear];
+        for (std::size_t i = 0; i < StationCount; ++i) {
+            const double x = place[i];
+            moment[i] = Single(reaction * x - (uniform * x * (x / 2) + net.Moment[i]));
+            shear[i] = Single(reaction - (uniform * x + net.Shear[i]));
+        }
+    }
+
+private:
+    void AddConcentrated(StationRange range, double load, double distance, StationTable::Column& moment,
+                         StationTable::Column& shear)
+    {
+        for (auto i = static_cast<std::size_t>(range.First); i < static_cast<std::size_t>(range.End); ++i) {
+            const double takenOff = (place[i] - distance) * load;
+            moment[i] = Single(takenOff);
+            shear[i] = Single(load);
+            net.Moment[i] += takenOff;
+            net.Shear[i] += load;
+        }
+    }
+
+    void AddSpread(StationRange range, double load, double begin, StationTable::Column& moment,
+                   StationTable::Column& shear)
+    {
+        for (auto i = static_cast<std::size_t>(range.First); i < static_cast<std::size_t>(range.End); ++i) {
+            const double length = place[i] - begin;
+            moment[i] = Single(length / 2 * length * load);
+            shear[i] = Single(length * load);
+            net.Moment[i] += length / 2 * length * load;
+            net.Shear[i] += length * load;
+        }
+    }
+
+    StationLine line;
+    StationTable& table;
+    std::array<double, StationTable::PaddedCount> place{};
+    NetSums net;
+};
+
+void FillStations(const BeamNumbers& beam, double reaction, StationTable& table)
+{
+    StationFiller filler(beam.Span, table);
+    if (beam.IsContinuous()) {
+        return;
+    }
+    const LoadNumbers& loads = beam.Loads;
+    const SpanSlots slots = SlotsOnSpan(beam.Support);
+    for (std::size_t k = 0; k < slots.Points; ++k) {
+        if (loads.PT[k] > 0) {
+            filler.AddPoint(k, loads.PT[k], loads.DIS[k]);
+        }
+    }
+    for (std::size_t k = 0; k < slots.Partials; ++k) {
+        if (loads.PAR[k] > 0) {
+            filler.AddPartial(k, loads.PAR[k], loads.BEGP[k], loads.ENDP[k]);
+        }
+    }
+    filler.FillNetColumns(reaction, loads.UNIF);
+}
+
+/// The last rising step decides. The place kept is the station before the peak: the rule by which
+/// self-weight is added to an overhanging beam's moment is made for that place.
+void FindPeak(const StationTable& table, AppliedLoadResult& result)
+{
+    const StationTable::Column& moment = table[StationColumn::Moment];
+    for (std::size_t i = LastStation - 1; i >= 1; --i) {
+        if (moment[i + 1] > moment[i]) {
+            result.MaxMomentStation = moment[i + 1];
+            result.MaxMomentAtFt = table[StationColumn::Position][i];
+            return;
+        }
+    }
+}
+
+float InflectionPlace(const StationTable& table, float previous)
+{
+    const StationTable::Column& moment = table[StationColumn::Moment];
+    for (std::size_t i = LastStation - 1; i >= 1; --i) {
+        if (moment[i] < 0) {
+            return table[StationColumn::Position][i];
+        }
+    }
+    return previous;
+}
+
+void AnalyseOverhang(const BeamNumbers& beam, float previousInflectionFt, const StationTable& table,
+                     AppliedLoadResult& result)
+{
+    const LoadView total = TotalLoads(beam.Loads);
+    result.OverhangFt = Single(OverhangLength(beam.Loads).value_or(0));
+    result.OverhangLoadSum = Single(OverhangLoad(total));
+    result.OverhangMomentApplied = Single(OverhangMomentAboutR2(total));
+    result.MaxMomentApplied = std::max(result.MaxMomentStation, result.OverhangMomentApplied);
+    result.InflectionFt = InflectionPlace(table, previousInflectionFt);
+}
+
+void AnalyseContinuous(const BeamNumbers& beam, AppliedLoadResult& result)
+{
+    const ContinuousCoefficients coefficient = CoefficientsOf(beam);
+    const double w = beam.Loads.UNIF;
+    const double wl = beam.Loads.LUNIF;
+    const double L = beam.Span;
+    result.R1Applied = Single(coefficient.R1 * w * L);
+    result.R2Applied = Single(coefficient.R2 * w * L);
+    result.R1Live = Single(coefficient.R1 * wl * L);
+    result.R2Live = Single(coefficient.R2 * wl * L);
+    result.MaxMomentApplied = Single(coefficient.Moment * L * L * w);
+}
+
+/// The triangular load rises from R1 to R2; its equivalent uniform load served for the moment only.
+void ReplaceHipValleyReactions(const BeamNumbers& beam, AppliedLoadResult& result)
+{
+    const double L = beam.Span;
+    const double W = beam.IncreasingTotalLoad;
+    const double Wl = beam.IncreasingLiveLoad;
+    result.R1Applied = Single(beam.Loads.IncUnifTL * L / 2 + W / 3);
+    result.R2Applied = Single(beam.Loads.IncUnifTL * L / 2 + 2 * W / 3);
+    result.R1Live = Single(beam.Loads.IncUnifLL * L / 2 + Wl / 3);
+    result.R2Live = Single(beam.Loads.IncUnifLL * L / 2 + 2 * Wl / 3);
+}
+
+void StoreTotals(const BeamNumbers& beam, AppliedLoadResult& result)
+{
+    const LoadTotals totals = SumLoads(beam);
+    result.PointTotalSum = Single(totals.PointTotal);
+    result.PointLiveSum = Single(totals.PointLive);
+    result.PartialTotalSum = Single(totals.PartialTotal);
+    result.PartialLiveSum = Single(totals.PartialLive);
+    result.TotalAppliedLoad = Single(totals.Total);
+    result.TotalAppliedLive = Single(totals.Live);
+    result.IncreasingTotalLoad = beam.IncreasingTotalLoad;
+    result.IncreasingLiveLoad = beam.IncreasingLiveLoad;
+}
+
+}  // namespace
+
+std::optional<double> OverhangLength(const LoadNumbers& loads)
+{
+    const std::array<double, 4> reaches{loads.DIS[4], loads.DIS[5], loads.ENDP[3], loads.ENDP[4]};
+    for (const double reach : reaches) {
+        if (std::all_of(reaches.begin(), reaches.end(), [reach](double other) { return reach >= other; })) {
+            return reach;
+        }
+    }
+    return std::nullopt;
+}
+
+LoadTotals SumLoads(const BeamNumbers& beam)
+{
+    const LoadView total = TotalLoads(beam.Loads);
+    const LoadView live = LiveLoads(beam.Loads);
+    LoadTotals sums{.PointTotal = SumPoints(total),
+                    .PointLive = SumPoints(live),
+                    .PartialTotal = SumPartials(total),
+                    .PartialLive = SumPartials(live)};
+    if (beam.Support == SupportCondition::HipValley) {
+        sums.Total = beam.IncreasingTotalLoad + beam.Loads.IncUnifTL * beam.Span;
+        sums.Live = beam.IncreasingLiveLoad + beam.Loads.IncUnifLL * beam.Span;
+    } else {
+        sums.Total = beam.Loads.UNIF * beam.Span + sums.PartialTotal + sums.PointTotal;
+        sums.Live = beam.Loads.LUNIF * beam.Span + sums.PartialLive + sums.PointLive;
+    }
+    return sums;
+}
+
+AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt, StationTable& table)
+{
+    AppliedLoadResult result;
+    StoreTotals(beam, result);
+    const double r1 = ReactionAtR1(beam, TotalLoads(beam.Loads));
+    const double r1Live = ReactionAtR1(beam, LiveLoads(beam.Loads));
+    FillStations(beam, r1, table);
+    if (beam.IsContinuous()) {
+        AnalyseContinuous(beam, result);
+    } else {
+        result.R1Applied = Single(r1);
+        result.R2Applied = Single(result.TotalAppliedLoad - r1);
+        result.R1Live = Single(r1Live);
+        result.R2Live = Single(result.TotalAppliedLive - r1Live);
+        FindPeak(table, result);
+        result.MaxMomentApplied = result.MaxMomentStation;
+    }
+    if (beam.IsOverhanging()) {
+        AnalyseOverhang(beam, previousInflectionFt, table, result);
+    } else if (beam.Support == SupportCondition::HipValley) {
+        ReplaceHipValleyReactions(beam, result);
+    }
+    result.HasLiveDeflFlag = HasLiveLoad(beam.Loads);
+    result.TotalPass = EquivalentLoads(beam, TotalLoads(beam.Loads), result.OverhangFt);
+    result.LivePass = EquivalentLoads(beam, LiveLoads(beam.Loads), result.OverhangFt);
+    return result;
+}
+
+bool IsFinite(const AppliedLoadResult& result)
+{
+    const std::array values{result.TotalAppliedLoad,      result.TotalAppliedLive, result.R1Applied,
+                            result.R2Applied,             result.R1Live,           result.R2Live,
+                            result.MaxMomentApplied,      result.OverhangLoadSum,  result.OverhangFt,
+                            result.OverhangMomentApplied, result.PointTotalSum,    result.PartialTotalSum,
+                            result.IncreasingTotalLoad,   result.IncreasingLiveLoad};
+    return std::all_of(values.begin(), values.end(), [](float value) { return std::isfinite(value); });
+}
+
+}  // namespace kordavan

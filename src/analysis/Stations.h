@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+
+namespace kordavan {
+
+/// Evenly spaced stations along a length: station i stands at i * Length / Steps, i from 0 to Steps.
+///
+/// Whether a place lies before or beyond a station is decided without rounding the station's place, so that
+/// a load exactly on a station is neither.
+struct StationLine {
+    double Length = 0;  // ft
+    int Steps = 0;
+
+    double PlaceOf(int station) const { return station * (Length / Steps); }
+
+    /// The first station beyond a place, Steps + 1 when there is none.
+    int FirstBeyond(double place) const;
+
+    /// The last station before a place, -1 when there is none.
+    int LastBefore(double place) const;
+};
+
+/// Sums of i, i^2 and i^3 over the stations strictly between two places.
+struct StationSums {
+    double Count = 0;
+    double First = 0;
+    double Second = 0;
+    double Third = 0;
+};
+
+StationSums SumStationsBetween(const StationLine& line, double begin, double end);
+
+}  // namespace kordavan

@@ -1,0 +1,117 @@
+#include "batch/AnswerLine.h"
+
+#include <array>
+#include <exception>
+#include <string>
+
+#include "batch/AnswerWriter.h"
+#include "batch/BeamAnswer.h"
+#include "batch/BeamRun.h"
+#include "batch/RequestLine.h"
+
+namespace kordavan {
+
+namespace {
+
+void WriteHead(const JsonValue* id, std::string_view status, AnswerWriter& answer)
+{
+    if (id != nullptr) {
+        answer.Field("id", *id);
+    }
+    answer.Field("status", status);
+}
+
+/// Status, messages and, where the run was refused, the message that did it, which is always the last.
+void WriteOutcome(const JsonValue* id, const CollectingUser& user, bool isDone, AnswerWriter& answer)
+{
+    WriteHead(id, isDone ? "done" : "refused", answer);
+    answer.Messages("messages", user.Heard());
+    if (!isDone && !user.Heard().empty()) {
+        answer.MessageField("refusal", user.Heard().back());
+    }
+}
+
+void AnswerBeam(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
+{
+    BeamRun run;
+    RunBeam(request, run);
+    answer.BeginObject();
+    WriteOutcome(id, run.User, run.IsDone(), answer);
+    if (run.Analysed) {
+        WriteCriteria(run.Work, answer);
+        WriteAnalysis(run.Work.Analysis, run.Tested ? AnalysisPart::WithCandidate : AnalysisPart::AppliedLoads, answer);
+    }
+    if (run.Analysed && run.IsDone() && run.WantsStations) {
+        WriteStations(run.Work.Stations, answer);
+    }
+    if (run.Tested) {
+        WriteMemberTest(run.Work.Member, answer);
+        WriteReport(run.Work, answer);
+    }
+    answer.EndObject();
+}
+
+void AnswerHipValley(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
+{
+    BeamRun run;
+    const bool isDone = RunHipValley(request, run) == Outcome::Done;
+    answer.BeginObject();
+    WriteOutcome(id, run.User, isDone, answer);
+    if (isDone) {
+        WriteHipValley(run.Work, answer);
+    }
+    answer.EndObject();
+}
+
+using Task = void (*)(const JsonValue&, const JsonValue*, AnswerWriter&);
+
+struct TaskRow {
+    std::string_view Name;
+    Task Answer;
+};
+
+constexpr std::array Tasks{
+    TaskRow{"beam", AnswerBeam},
+    TaskRow{"hip-valley", AnswerHipValley},
+};
+
+Task FindTask(std::string_view name)
+{
+    for (const TaskRow& row : Tasks) {
+        if (row.Name == name) {
+            return row.Answer;
+        }
+    }
+    throw InvalidRequest("task: no such task");
+}
+
+void AnswerInvalid(const JsonValue* id, std::string_view error, rapidjson::StringBuffer& buffer)
+{
+    AnswerWriter answer(buffer);
+    answer.BeginObject();
+    WriteHead(id, "invalid", answer);
+    answer.Field("error", error);
+    answer.EndObject();
+}
+
+}  // namespace
+
+void AnswerLine(std::string_view line, rapidjson::StringBuffer& buffer)
+{
+    const std::size_t begin = buffer.GetSize();
+    rapidjson::Document request;
+    const JsonValue* id = nullptr;
+    try {
+        ParseRequest(line, request);
+        const auto found = request.FindMember("id");
+        id = found == request.MemberEnd() ? nullptr : &found->value;
+        const Task task = FindTask(TaskOf(request));
+        AnswerWriter answer(buffer);
+        task(request, id, answer);
+    } catch (const std::exception& fault) {
+        buffer.Pop(buffer.GetSize() - begin);
+        AnswerInvalid(id, fault.what(), buffer);
+    }
+}
+
+}  // namespace kordavan

@@ -1,0 +1,314 @@
+#include "batch/BeamAnswer.h"
+
+#include <array>
+#include <string_view>
+
+#include "core/NumberText.h"
+#include "design/TestReport.h"
+
+namespace kordavan {
+
+namespace {
+
+template <typename Record>
+struct FloatField {
+    std::string_view Name;
+    float Record::*Value;
+};
+
+template <typename Record, std::size_t Count>
+void WriteFields(const Record& record, const std::array<FloatField<Record>, Count>& fields, AnswerWriter& answer)
+{
+    for (const FloatField<Record>& field : fields) {
+        answer.Field(field.Name, record.*field.Value);
+    }
+}
+
+using AnalysisField = FloatField<AnalysisResult>;
+
+constexpr std::array AppliedLoadFields{
+    AnalysisField{"PointTotalSum", &AnalysisResult::PointTotalSum},
+    AnalysisField{"PointLiveSum", &AnalysisResult::PointLiveSum},
+    AnalysisField{"PartialTotalSum", &AnalysisResult::PartialTotalSum},
+    AnalysisField{"PartialLiveSum", &AnalysisResult::PartialLiveSum},
+    AnalysisField{"TotalAppliedLoad", &AnalysisResult::TotalAppliedLoad},
+    AnalysisField{"TotalAppliedLive", &AnalysisResult::TotalAppliedLive},
+    AnalysisField{"R1Applied", &AnalysisResult::R1Applied},
+    AnalysisField{"R2Applied", &AnalysisResult::R2Applied},
+    AnalysisField{"R1Live", &AnalysisResult::R1Live},
+    AnalysisField{"R2Live", &AnalysisResult::R2Live},
+    AnalysisField{"MaxMomentStation", &AnalysisResult::MaxMomentStation},
+    AnalysisField{"MaxMomentAtFt", &AnalysisResult::MaxMomentAtFt},
+    AnalysisField{"MaxMomentApplied", &AnalysisResult::MaxMomentApplied},
+    AnalysisField{"InflectionFt", &AnalysisResult::InflectionFt},
+    AnalysisField{"OverhangFt", &AnalysisResult::OverhangFt},
+    AnalysisField{"OverhangLoadSum", &AnalysisResult::OverhangLoadSum},
+    AnalysisField{"OverhangMomentApplied", &AnalysisResult::OverhangMomentApplied},
+    AnalysisField{"IncreasingTotalLoad", &AnalysisResult::IncreasingTotalLoad},
+    AnalysisField{"IncreasingLiveLoad", &AnalysisResult::IncreasingLiveLoad},
+};
+
+constexpr std::array CandidateFields{
+    AnalysisField{"SelfWeightPlf", &AnalysisResult::SelfWeightPlf},
+    AnalysisField{"SelfWeightTotal", &AnalysisResult::SelfWeightTotal},
+    AnalysisField{"R1Total", &AnalysisResult::R1Total},
+    AnalysisField{"R2Total", &AnalysisResult::R2Total},
+    AnalysisField{"TotalLoadWithSelf", &AnalysisResult::TotalLoadWithSelf},
+    AnalysisField{"MaxMomentFtLb", &AnalysisResult::MaxMomentFtLb},
+    AnalysisField{"OverhangMomentTotal", &AnalysisResult::OverhangMomentTotal},
+    AnalysisField{"SectionRequired", &AnalysisResult::SectionRequired},
+    AnalysisField{"ShearMax", &AnalysisResult::ShearMax},
+    AnalysisField{"ShearReduced", &AnalysisResult::ShearReduced},
+    AnalysisField{"ShearStressActual", &AnalysisResult::ShearStressActual},
+    AnalysisField{"AreaRequired", &AnalysisResult::AreaRequired},
+    AnalysisField{"TotalDeflIn", &AnalysisResult::TotalDeflIn},
+    AnalysisField{"LiveDeflIn", &AnalysisResult::LiveDeflIn},
+    AnalysisField{"DeadDeflIn", &AnalysisResult::DeadDeflIn},
+    AnalysisField{"AllowTotalDeflIn", &AnalysisResult::AllowTotalDeflIn},
+    AnalysisField{"AllowLiveDeflIn", &AnalysisResult::AllowLiveDeflIn},
+    AnalysisField{"TotalDeflRatio", &AnalysisResult::TotalDeflRatio},
+    AnalysisField{"LiveDeflRatio", &AnalysisResult::LiveDeflRatio},
+    AnalysisField{"TipDeflIn", &AnalysisResult::TipDeflIn},
+    AnalysisField{"TipLiveDeflIn", &AnalysisResult::TipLiveDeflIn},
+    AnalysisField{"TipDeadDeflIn", &AnalysisResult::TipDeadDeflIn},
+    AnalysisField{"AllowTipDeflIn", &AnalysisResult::AllowTipDeflIn},
+    AnalysisField{"AllowTipLiveDeflIn", &AnalysisResult::AllowTipLiveDeflIn},
+    AnalysisField{"TipDeflRatio", &AnalysisResult::TipDeflRatio},
+    AnalysisField{"TipLiveDeflRatio", &AnalysisResult::TipLiveDeflRatio},
+    AnalysisField{"CreepFactor", &AnalysisResult::CreepFactor},
+};
+
+using FactorField = FloatField<AdjustmentFactors>;
+
+constexpr std::array ServiceFields{
+    FactorField{"Cd", &AdjustmentFactors::Cd},
+    FactorField{"Cr", &AdjustmentFactors::Cr},
+    FactorField{"CmFb", &AdjustmentFactors::CmFb},
+    FactorField{"CmFv", &AdjustmentFactors::CmFv},
+    FactorField{"CmFcPerp", &AdjustmentFactors::CmFcPerp},
+    FactorField{"CmE", &AdjustmentFactors::CmE},
+    FactorField{"Cf", &AdjustmentFactors::Cf},
+    FactorField{"CfSmaller", &AdjustmentFactors::CfSmaller},
+    FactorField{"CiFb", &AdjustmentFactors::CiFb},
+    FactorField{"CiFv", &AdjustmentFactors::CiFv},
+    FactorField{"CiE", &AdjustmentFactors::CiE},
+    FactorField{"Cv", &AdjustmentFactors::Cv},
+    FactorField{"CL", &AdjustmentFactors::CL},
+    FactorField{"CLOverhang", &AdjustmentFactors::CLOverhang},
+    FactorField{"FormFactor", &AdjustmentFactors::FormFactor},
+};
+
+using AdjustedField = FloatField<AdjustedValues>;
+
+constexpr std::array AdjustedFields{
+    AdjustedField{"FbAdj", &AdjustedValues::FbAdj},         AdjustedField{"FbStar", &AdjustedValues::FbStar},
+    AdjustedField{"FvAdj", &AdjustedValues::FvAdj},         AdjustedField{"FcPerpAdj", &AdjustedValues::FcPerpAdj},
+    AdjustedField{"EAdj", &AdjustedValues::EAdj},
+};
+
+using TestField = FloatField<MemberTestResult>;
+
+constexpr std::array TestFields{
+    TestField{"SectionReq", &MemberTestResult::SectionReq},
+    TestField{"SectionProp", &MemberTestResult::SectionProp},
+    TestField{"ActualShearStress", &MemberTestResult::ActualShearStress},
+    TestField{"AreaReq", &MemberTestResult::AreaReq},
+    TestField{"AreaProp", &MemberTestResult::AreaProp},
+    TestField{"FvAdj", &MemberTestResult::FvAdj},
+    TestField{"TotalDeflection", &MemberTestResult::TotalDeflection},
+    TestField{"TotalDeflectionAllowed", &MemberTestResult::TotalDeflectionAllowed},
+    TestField{"LiveDeflection", &MemberTestResult::LiveDeflection},
+    TestField{"LiveDeflectionAllowed", &MemberTestResult::LiveDeflectionAllowed},
+    TestField{"OverhangDeflection", &MemberTestResult::OverhangDeflection},
+    TestField{"OverhangDeflectionAllowed", &MemberTestResult::OverhangDeflectionAllowed},
+    TestField{"OverhangLiveDeflection", &MemberTestResult::OverhangLiveDeflection},
+    TestField{"OverhangLiveDeflectionAllowed", &MemberTestResult::OverhangLiveDeflectionAllowed},
+    TestField{"DeadDeflection", &MemberTestResult::DeadDeflection},
+    TestField{"CreepFactor", &MemberTestResult::CreepFactor},
+    TestField{"SpanOverDeflection", &MemberTestResult::SpanOverDeflection},
+    TestField{"R1Total", &MemberTestResult::R1Total},
+    TestField{"R2Total", &MemberTestResult::R2Total},
+    TestField{"MaxMoment", &MemberTestResult::MaxMoment},
+    TestField{"OverhangMoment", &MemberTestResult::OverhangMoment},
+    TestField{"TotalLoad", &MemberTestResult::TotalLoad},
+};
+
+struct StatusField {
+    std::string_view Name;
+    std::string_view MemberTestResult::*Status;
+};
+
+constexpr std::array StatusFields{
+    StatusField{"SecStatus", &MemberTestResult::SecStatus},
+    StatusField{"ShearStatus", &MemberTestResult::ShearStatus},
+    StatusField{"DeflStatus", &MemberTestResult::DeflStatus},
+    StatusField{"LDeflStatus", &MemberTestResult::LDeflStatus},
+    StatusField{"OHDeflStatus", &MemberTestResult::OHDeflStatus},
+    StatusField{"OHLDeflStatus", &MemberTestResult::OHLDeflStatus},
+    StatusField{"Overall", &MemberTestResult::Overall},
+};
+
+template <typename Values>
+void WriteLoads(std::string_view name, const Values& values, AnswerWriter& answer)
+{
+    answer.BeginArray(name);
+    for (const double value : values) {
+        answer.Item(Single(value));
+    }
+    answer.EndArray();
+}
+
+/// The names of a slenderness record's figures on the span and on the overhang.
+struct SlendernessNames {
+    std::string_view LuIn;
+    std::string_view LeIn;
+    std::string_view Rb;
+    std::string_view RbOver50;
+    std::string_view KbE;
+    std::string_view FbE;
+    std::string_view FbEOverFbStar;
+};
+
+constexpr SlendernessNames SpanNames{"LuIn", "LeIn", "Rb", "RbOver50", "KbE", "FbE", "FbEOverFbStar"};
+constexpr SlendernessNames OverhangNames{"CantLuIn", "CantLeIn", "CantRb", "CantRbOver50", "CantKbE", "CantFbE",
+                                         "CantFbEOverFbStar"};
+
+void WriteSlenderness(const SlendernessResult& slenderness, const SlendernessNames& names, AnswerWriter& answer)
+{
+    answer.Field(names.LuIn, slenderness.LuIn);
+    answer.Field(names.LeIn, slenderness.LeIn);
+    answer.Field(names.Rb, slenderness.Rb);
+    answer.Field(names.RbOver50, slenderness.RbOver50);
+    answer.Field(names.KbE, slenderness.KbE);
+    answer.Field(names.FbE, slenderness.FbE);
+    answer.Field(names.FbEOverFbStar, slenderness.FbEOverFbStar);
+}
+
+void WriteCandidate(const MemberCandidate& candidate, AnswerWriter& answer)
+{
+    answer.BeginObject("member");
+    answer.Field("BreadthKey", KeyText(candidate.BreadthKey));
+    answer.Field("B", candidate.B);
+    answer.Field("D", candidate.D);
+    answer.Field("NextSmallerDepth", candidate.NextSmallerDepth);
+    answer.Field("NextSmallerDepthText", candidate.NextSmallerDepthText);
+    answer.Field("NextLargerDepthText", candidate.NextLargerDepthText);
+    answer.EndObject();
+}
+
+void WriteValues(const DesignValues& values, AnswerWriter& answer)
+{
+    answer.BeginObject("values");
+    answer.Field("Fb", values.Fb);
+    answer.Field("Fv", values.Fv);
+    answer.Field("FcPerp", static_cast<int>(values.FcPerp));
+    answer.Field("E", values.E);
+    answer.EndObject();
+}
+
+void WriteTest(const MemberTestResult& result, AnswerWriter& answer)
+{
+    answer.BeginObject("test");
+    WriteFields(result, TestFields, answer);
+    answer.Field("NextSmallerOk", result.NextSmallerOk);
+    answer.Field("NoSplits", result.NoSplits);
+    for (const StatusField& field : StatusFields) {
+        answer.Field(field.Name, result.*field.Status);
+    }
+    answer.EndObject();
+}
+
+}  // namespace
+
+void WriteCriteria(const Session& session, AnswerWriter& answer)
+{
+    const BeamNumbers& beam = session.Numbers;
+    answer.BeginObject("criteria");
+    answer.Field("SlopeFactor", beam.SlopeFactor);
+    answer.Field("DensityFactor", beam.DensityFactor);
+    answer.Field("SteelFlag", beam.IsSteel());
+    answer.Field("UNIF", Single(beam.Loads.UNIF));
+    answer.Field("LUNIF", Single(beam.Loads.LUNIF));
+    WriteLoads("PT", beam.Loads.PT, answer);
+    WriteLoads("LPT", beam.Loads.LPT, answer);
+    WriteLoads("PAR", beam.Loads.PAR, answer);
+    WriteLoads("LPAR", beam.Loads.LPAR, answer);
+    answer.EndObject();
+}
+
+void WriteAnalysis(const AnalysisResult& analysis, AnalysisPart part, AnswerWriter& answer)
+{
+    answer.BeginObject("analysis");
+    WriteFields(analysis, AppliedLoadFields, answer);
+    if (part == AnalysisPart::WithCandidate) {
+        WriteFields(analysis, CandidateFields, answer);
+        answer.Field("HasLiveDeflFlag", analysis.HasLiveDeflFlag);
+    }
+    answer.EndObject();
+}
+
+void WriteStations(const StationTable& stations, AnswerWriter& answer)
+{
+    const StationTable::Column& x = stations[StationColumn::Position];
+    const StationTable::Column& moment = stations[StationColumn::Moment];
+    const StationTable::Column& shear = stations[StationColumn::Shear];
+    answer.BeginArray("stations");
+    for (std::size_t i = 0; i < StationCount; ++i) {
+        answer.BeginArray();
+        answer.Item(x[i]);
+        answer.Item(moment[i]);
+        answer.Item(shear[i]);
+        answer.EndArray();
+    }
+    answer.EndArray();
+}
+
+void WriteMemberTest(const MemberTest& member, AnswerWriter& answer)
+{
+    WriteCandidate(member.Candidate, answer);
+    WriteValues(member.Values, answer);
+    answer.BeginObject("factors");
+    WriteFields(member.Factors, ServiceFields, answer);
+    answer.Field("CvGoverns", member.Factors.CvGoverns);
+    answer.EndObject();
+    answer.BeginObject("stability");
+    WriteSlenderness(member.Stability.Span, SpanNames, answer);
+    WriteSlenderness(member.Stability.Overhang, OverhangNames, answer);
+    answer.EndObject();
+    answer.BeginObject("adjusted");
+    WriteFields(member.Adjusted, AdjustedFields, answer);
+    answer.EndObject();
+    WriteTest(member.Result, answer);
+}
+
+void WriteReport(const Session& session, AnswerWriter& answer)
+{
+    const TestReport report = MakeTestReport(session);
+    answer.BeginObject("report");
+    for (const TestReportField& field : TestReportFields) {
+        answer.Field(field.Name, std::string_view(report.*field.Text));
+    }
+    answer.EndObject();
+}
+
+void WriteHipValley(const Session& session, AnswerWriter& answer)
+{
+    const BeamProblem& problem = session.Problem;
+    const LoadSet& loads = problem.Loads;
+    answer.BeginObject("criteria");
+    answer.Field("Span", Val(problem.Span));
+    answer.Field("UNIF", Single(Val(loads.UNIF)));
+    answer.Field("LUNIF", Single(Val(loads.LUNIF)));
+    answer.Field("IncTL", Val(loads.IncTL));
+    answer.Field("IncLL", Val(loads.IncLL));
+    answer.Field("IncUnifTL", Val(loads.IncUnifTL));
+    answer.Field("IncUnifLL", Val(loads.IncUnifLL));
+    answer.Field("Trib1", Val(loads.Trib1));
+    answer.Field("Trib2", Val(loads.Trib2));
+    answer.Field("SlopeFactor", RafterSlopeFactor(problem));
+    answer.Field("IncreasingTotalLoad", session.IncreasingTotalLoad);
+    answer.Field("IncreasingLiveLoad", session.IncreasingLiveLoad);
+    answer.EndObject();
+}
+
+}  // namespace kordavan

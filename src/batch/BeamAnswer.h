@@ -1,0 +1,24 @@
+#pragma once
+
+#include "batch/AnswerWriter.h"
+#include "design/Session.h"
+
+namespace kordavan {
+
+/// Whether the candidate's part of the analysis is there.
+enum class AnalysisPart { AppliedLoads, WithCandidate };
+
+void WriteCriteria(const Session& session, AnswerWriter& answer);
+void WriteAnalysis(const AnalysisResult& analysis, AnalysisPart part, AnswerWriter& answer);
+void WriteStations(const StationTable& stations, AnswerWriter& answer);
+
+/// Member, values, factors, stability, adjusted values and verdict of the member tested last.
+void WriteMemberTest(const MemberTest& member, AnswerWriter& answer);
+
+/// Every text of the test report.
+void WriteReport(const Session& session, AnswerWriter& answer);
+
+/// The criteria as they stand after the hips and valleys tool, as numbers.
+void WriteHipValley(const Session& session, AnswerWriter& answer);
+
+}  // namespace kordavan

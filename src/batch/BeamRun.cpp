@@ -1,0 +1,121 @@
+#include "batch/BeamRun.h"
+
+#include <algorithm>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "batch/CriteriaRequest.h"
+#include "batch/MemberRequest.h"
+#include "design/CalculateAction.h"
+#include "design/LoadTools.h"
+#include "design/MemberTest.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::array<std::string_view, 7> BeamFields{"task",   "id",     "edition", "criteria",
+                                                     "member", "answer", "stations"};
+constexpr std::array<std::string_view, 5> HipValleyFields{"task", "id", "edition", "criteria", "answer"};
+
+void RefuseUnknownFields(const JsonValue& request, std::span<const std::string_view> known)
+{
+    for (const JsonValue::Member& member : request.GetObject()) {
+        const std::string_view name = NameOf(member);
+        if (std::find(known.begin(), known.end(), name) == known.end()) {
+            FieldPath(name).Fail("no such field in this task");
+        }
+    }
+}
+
+const JsonValue* Find(const JsonValue& request, const char* name)
+{
+    const auto found = request.FindMember(name);
+    return found == request.MemberEnd() ? nullptr : &found->value;
+}
+
+Edition EditionOf(const JsonValue& request)
+{
+    const JsonValue* const year = Find(request, "edition");
+    if (year == nullptr) {
+        return Edition::Nds2018;
+    }
+    const FieldPath path("edition");
+    const Edition edition = EditionOfYear(TextOf(*year, path));
+    if (edition == Edition::None) {
+        path.Fail("\"1997\", \"2001\", \"2005\", \"2012\", \"2015\" or \"2018\" is expected");
+    }
+    return edition;
+}
+
+bool AnswersYes(const JsonValue& request)
+{
+    const JsonValue* const answer = Find(request, "answer");
+    if (answer == nullptr) {
+        return true;
+    }
+    const FieldPath path("answer");
+    const std::string_view text = TextOf(*answer, path);
+    if (text != "yes" && text != "no") {
+        path.Fail("\"yes\" or \"no\" is expected");
+    }
+    return text == "yes";
+}
+
+void ReadProblem(const JsonValue& request, BeamRun& run)
+{
+    run.Work.Nds = EditionFlags(EditionOf(request));
+    run.User.AnswerWith(AnswersYes(request));
+    if (const JsonValue* const criteria = Find(request, "criteria")) {
+        ReadCriteria(*criteria, FieldPath("criteria"), run.Work.Problem, run.User);
+    }
+}
+
+/// The equivalent uniform load of a hip or valley is worked out first when only the roof load is given.
+Outcome PrepareHipValley(BeamRun& run)
+{
+    const BeamProblem& problem = run.Work.Problem;
+    const bool isNeeded = problem.Support == SupportCondition::HipValley && !problem.Loads.IncTL.empty() &&
+                          problem.Loads.UNIF.empty();
+    return isNeeded ? CalculateHipValley(run.Work, run.User) : Outcome::Done;
+}
+
+}  // namespace
+
+void RunBeam(const JsonValue& request, BeamRun& run)
+{
+    RefuseUnknownFields(request, BeamFields);
+    ReadProblem(request, run);
+    if (const JsonValue* const stations = Find(request, "stations")) {
+        run.WantsStations = FlagOf(*stations, FieldPath("stations"));
+    }
+    MemberEntry entry;
+    if (const JsonValue* const member = Find(request, "member")) {
+        run.HasMember = true;
+        ReadMember(*member, FieldPath("member"), run.Work.Problem.Combo1, entry);
+    }
+    if (PrepareHipValley(run) != Outcome::Done || CalculateAction(run.Work, run.User) != Outcome::Done) {
+        return;
+    }
+    run.Analysed = true;
+    run.Tested = run.HasMember && TestMember(run.Work, entry, {}, run.User) == Outcome::Done;
+}
+
+Outcome RunHipValley(const JsonValue& request, BeamRun& run)
+{
+    RefuseUnknownFields(request, HipValleyFields);
+    ReadProblem(request, run);
+    return CalculateHipValley(run.Work, run.User);
+}
+
+std::string_view TaskOf(const JsonValue& request)
+{
+    const JsonValue* const task = Find(request, "task");
+    if (task == nullptr) {
+        throw InvalidRequest("task: missing");
+    }
+    return TextOf(*task, FieldPath("task"));
+}
+
+}  // namespace kordavan

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "batch/CollectingUser.h"
+#include "batch/Json.h"
+#include "design/Session.h"
+
+namespace kordavan {
+
+/// What a request asks for besides its figures, and how far it came.
+struct BeamRun {
+    Session Work;
+    CollectingUser User;
+    bool WantsStations = false;
+    bool HasMember = false;
+    bool Analysed = false;
+    bool Tested = false;
+
+    bool IsDone() const { return HasMember ? Tested : Analysed; }
+};
+
+/// Runs the calculate action and, with a member, its test. Throws InvalidRequest.
+void RunBeam(const JsonValue& request, BeamRun& run);
+
+/// Runs the hips and valleys tool alone. Throws InvalidRequest.
+Outcome RunHipValley(const JsonValue& request, BeamRun& run);
+
+/// The task a request names. Throws InvalidRequest when it names none.
+std::string_view TaskOf(const JsonValue& request);
+
+}  // namespace kordavan

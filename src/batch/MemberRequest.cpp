@@ -1,0 +1,76 @@
+#include "batch/MemberRequest.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace kordavan {
+
+namespace {
+
+using Target = std::variant<std::string MemberEntry::*, std::string CustomEntry::*, bool CustomEntry::*>;
+
+struct MemberField {
+    std::string_view Name;
+    Target Into;
+};
+
+constexpr std::array Fields{
+    MemberField{"BreadthText", &MemberEntry::BreadthText},
+    MemberField{"DepthText", &MemberEntry::DepthText},
+    MemberField{"SpeciesText", &MemberEntry::SpeciesText},
+    MemberField{"Fb", &CustomEntry::Fb},
+    MemberField{"Fv", &CustomEntry::Fv},
+    MemberField{"E", &CustomEntry::E},
+    MemberField{"FcPerp", &CustomEntry::FcPerp},
+    MemberField{"Wid2x", &CustomEntry::Wid2x},
+    MemberField{"Wid4x", &CustomEntry::Wid4x},
+    MemberField{"Wid6x", &CustomEntry::Wid6x},
+    MemberField{"WidGLB", &CustomEntry::WidGLB},
+    MemberField{"WidGLBHDR", &CustomEntry::WidGLBHDR},
+    MemberField{"SPG", &CustomEntry::SPG},
+    MemberField{"CustomIngradeSP", &CustomEntry::CustomIngradeSP},
+    MemberField{"MSRCheckbox", &CustomEntry::MSRCheckbox},
+    MemberField{"MELCheckbox", &CustomEntry::MELCheckbox},
+    MemberField{"Roundoption", &CustomEntry::Roundoption},
+    MemberField{"Diam", &CustomEntry::Diam},
+};
+constexpr std::size_t ListedFieldCount = 3;
+
+std::span<const MemberField> FieldsOf(SpeciesGroup group)
+{
+    const std::span<const MemberField> all(Fields);
+    return group == SpeciesGroup::Custom ? all : all.first(ListedFieldCount);
+}
+
+struct FieldReader {
+    const JsonValue& Value;
+    const FieldPath& Path;
+    MemberEntry& Entry;
+
+    void operator()(std::string MemberEntry::*text) const { Entry.*text = EntryText(Value, Path); }
+    void operator()(std::string CustomEntry::*text) const { Entry.Custom.*text = EntryText(Value, Path); }
+    void operator()(bool CustomEntry::*flag) const { Entry.Custom.*flag = FlagOf(Value, Path); }
+};
+
+}  // namespace
+
+void ReadMember(const JsonValue& member, const FieldPath& path, SpeciesGroup group, MemberEntry& entry)
+{
+    const std::span<const MemberField> fields = FieldsOf(group);
+    for (const JsonValue::Member& json : ObjectOf(member, path).GetObject()) {
+        const std::string_view name = NameOf(json);
+        const FieldPath fieldPath = path.Field(name);
+        const auto field =
+            std::find_if(fields.begin(), fields.end(), [name](const MemberField& row) { return row.Name == name; });
+        if (field == fields.end()) {
+            fieldPath.Fail("no such field in this material group");
+        }
+        std::visit(FieldReader{json.value, fieldPath, entry}, field->Into);
+    }
+}
+
+}  // namespace kordavan

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <array>
+
+#include "core/BeamProblem.h"
+#include "core/NdsEdition.h"
+
+namespace kordavan {
+
+inline constexpr double InchesPerFoot = 12;
+
+using PointValues = std::array<double, PointSlotCount>;
+using PartialValues = std::array<double, PartialSlotCount>;
+
+/// The loads of a LoadSet as numbers, under the same names and in the same units; a blank is 0.
+struct LoadNumbers {
+    double UNIF = 0;
+    double LUNIF = 0;
+    PointValues PT{};
+    PointValues LPT{};
+    PointValues DIS{};
+    PartialValues PAR{};
+    PartialValues LPAR{};
+    PartialValues BEGP{};
+    PartialValues ENDP{};
+    double IncUnifTL = 0;
+    double IncUnifLL = 0;
+};
+
+/// A beam as the engine computes on it: the entries of a BeamProblem, read once.
+struct BeamNumbers {
+    SupportCondition Support = SupportCondition::SimpleSpan;
+    bool ThreeSpan = false;
+    double Span = 0;      // ft
+    double UBL = 0;       // unbraced length of the span, ft
+    double CantUBL = 0;   // unbraced length of the overhang, ft
+    double Dur = 1;       // load duration factor
+    double MaxDefl = 0;   // span over this is the total load deflection allowed
+    double LMaxDefl = 0;  // the same of the live load
+    LoadNumbers Loads;
+
+    SpeciesGroup Group = SpeciesGroup::HemFirDouglasFir;
+    Edition Nds = Edition::Nds2018;
+    bool Rep = false;
+    bool Wet = false;
+    bool Incised = false;
+    bool ReduceShear = false;
+    bool NoWeight = false;
+    bool InGrade = true;
+
+    float SlopeFactor = 1;    // length along the slope over horizontal length
+    float DensityFactor = 0;  // self-weight, plf per in2 of section
+
+    float IncreasingTotalLoad = 0;  // whole weight of the hip or valley load, lb
+    float IncreasingLiveLoad = 0;
+
+    bool IsSteel() const { return Group == SpeciesGroup::Steel; }
+    bool IsOverhanging() const { return Support == SupportCondition::Overhanging; }
+    bool IsContinuous() const { return Support == SupportCondition::MultipleSpans; }
+};
+
+/// Reads the entries of the problem; edition, slope, density and increasing loads are the caller's to set.
+BeamNumbers ReadBeamNumbers(const BeamProblem& problem);
+
+/// Length along the slope over horizontal length: 1 / cos(atan(rise/12)), or 1 without slope adjustment.
+float RafterSlopeFactor(const BeamProblem& problem);
+
+/// True when any live load is entered.
+bool HasLiveLoad(const LoadNumbers& loads);
+
+}  // namespace kordavan

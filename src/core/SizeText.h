@@ -1,0 +1,70 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace kordavan {
+
+/// A member's size as it is written, stored and shown: "(2) 2x" and "11-7/8". The text is the key; nothing is
+/// parsed, each known text names its net dimension.
+struct SizeText {
+    std::string Breadth;
+    std::string Depth;
+};
+
+/// A text of a few characters that can be made at compile time.
+class ShortText {
+public:
+    constexpr void Append(char c) { characters[count++] = c; }
+    constexpr std::string_view View() const { return {characters.data(), count}; }
+
+private:
+    std::array<char, 12> characters{};
+    std::size_t count = 0;
+};
+
+constexpr int SixteenthsPerInch = 16;
+
+/// Inches as the trade writes them, whole number, hyphen, fraction: 190 sixteenths are "11-7/8".
+constexpr ShortText InchesText(int sixteenths)
+{
+    const auto appendNumber = [](ShortText& text, int number) {
+        int place = 1;
+        while (number / place >= 10) {
+            place *= 10;
+        }
+        for (; place > 0; place /= 10) {
+            text.Append(static_cast<char>('0' + number / place % 10));
+        }
+    };
+    ShortText text;
+    const int whole = sixteenths / SixteenthsPerInch;
+    int numerator = sixteenths % SixteenthsPerInch;
+    if (whole > 0 || numerator == 0) {
+        appendNumber(text, whole);
+    }
+    if (numerator == 0) {
+        return text;
+    }
+    if (whole > 0) {
+        text.Append('-');
+    }
+    int denominator = SixteenthsPerInch;
+    while (numerator % 2 == 0) {
+        numerator /= 2;
+        denominator /= 2;
+    }
+    appendNumber(text, numerator);
+    text.Append('/');
+    appendNumber(text, denominator);
+    return text;
+}
+
+static_assert(InchesText(190).View() == "11-7/8");
+
+/// The same of a decimal; a length between the sixteenths is given as a plain number.
+std::string InchesText(double inches);
+
+}  // namespace kordavan

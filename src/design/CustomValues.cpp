@@ -1,0 +1,55 @@
+#include "design/CustomValues.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+#include "core/NumberText.h"
+
+namespace kordavan {
+
+namespace {
+
+struct OwnValue {
+    float Value;
+    std::string_view MissingText;
+    std::string_view Box;
+};
+
+std::int16_t WholePsi(double value)
+{
+    constexpr double most = std::numeric_limits<std::int16_t>::max();
+    const double whole = std::round(value);
+    return whole >= 0 && whole <= most ? static_cast<std::int16_t>(whole) : std::int16_t{0};
+}
+
+}  // namespace
+
+DesignValues ReadCustomValues(const CustomEntry& custom)
+{
+    return {.Fb = Single(Val(custom.Fb)),
+            .Fv = Single(Val(custom.Fv)),
+            .FcPerp = WholePsi(Val(custom.FcPerp)),
+            .E = Single(Val(custom.E))};
+}
+
+Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user)
+{
+    if (!values) {
+        return Outcome::Done;
+    }
+    const std::array checks{
+        OwnValue{values->Fb, "Please enter a value for the Fb.", "Text1"},
+        OwnValue{values->Fv, "Please enter a value for the Fv.", "Text2"},
+        OwnValue{values->E, "Please enter a value for the E.", "Text4"},
+        OwnValue{static_cast<float>(values->FcPerp), "Please enter a value for the Fc.", "Text3"},
+    };
+    const auto* const missing =
+        std::find_if(checks.begin(), checks.end(), [](const OwnValue& check) { return !(check.Value > 0); });
+    return missing == checks.end() ? Outcome::Done : Refuse(user, Refusal(missing->MissingText, missing->Box));
+}
+
+}  // namespace kordavan

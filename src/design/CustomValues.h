@@ -1,0 +1,17 @@
+#pragma once
+
+#include <optional>
+
+#include "core/Message.h"
+#include "design/Member.h"
+#include "materials/Species.h"
+
+namespace kordavan {
+
+/// The user's own values as numbers; Fc-perp rounded to a whole psi, and 0 when it is beyond 16 bits.
+DesignValues ReadCustomValues(const CustomEntry& custom);
+
+/// Refuses values of zero or less, each with the box to fill; members of listed values have none to check.
+Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user);
+
+}  // namespace kordavan

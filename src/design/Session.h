@@ -1,0 +1,52 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "analysis/AnalysisResult.h"
+#include "analysis/StationTable.h"
+#include "core/BeamNumbers.h"
+#include "core/BeamProblem.h"
+#include "core/NdsEdition.h"
+#include "design/MemberTestResult.h"
+
+namespace kordavan {
+
+/// What the entries were before a calculation changed them.
+struct EntriesToRestore {
+    bool LoadsMultipliedFlag = false;  // the boxes hold loads as adjusted
+    std::string SavedUniform;
+    PartialTexts SavedPartial;
+    std::string SavedIncTL;
+    std::string SavedIncUnifTL;
+    bool HipLoadsGrown = false;  // the hips and valleys tool has grown IncTL and IncUnifTL
+};
+
+/// Live loads taken out of the entries for a moment, and where they belong.
+struct UnbalancedLoads {
+    bool Overhang = false;  // the overhang's live loads are out
+    bool Span = false;      // the span's live loads are out
+    std::string SavedLiveUniform;
+    PointTexts SavedLivePoint;
+    PartialTexts SavedLivePartial;
+};
+
+/// One beam at work, from its entries to the member tested last.
+struct Session {
+    BeamProblem Problem;
+    NdsEdition Nds = EditionFlags(Edition::Nds2018);
+
+    EntriesToRestore Restore;
+    UnbalancedLoads Unbalanced;
+    float IncreasingTotalLoad = 0;  // of the hips and valleys tool, lb
+    float IncreasingLiveLoad = 0;
+
+    BeamNumbers Numbers;  // the entries as the last calculation read them
+    AnalysisResult Analysis;
+    StationTable Stations;
+
+    bool SoPineLowered = false;  // left by the last test of a #2 Southern Pine
+    MemberTest Member;
+};
+
+}  // namespace kordavan
