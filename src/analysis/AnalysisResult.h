@@ -10,6 +10,11 @@ struct DeflectionLoads {
     double SpanLift = 0;  // span lift by loads on the overhang, times EI, lb-in3
 };
 
+struct DeflectionPasses {
+    DeflectionLoads Total;
+    DeflectionLoads Live;
+};
+
 /// The entered loads alone, without self-weight. Lives from one calculate action to the next.
 struct AppliedLoadResult {
     float PointTotalSum = 0;  // lb
@@ -33,8 +38,7 @@ struct AppliedLoadResult {
     float IncreasingLiveLoad = 0;
 
     bool HasLiveDeflFlag = false;  // any live load is entered
-    DeflectionLoads TotalPass;
-    DeflectionLoads LivePass;
+    DeflectionPasses Deflecting;
 };
 
 /// Loads of one candidate: the applied loads with its self-weight.

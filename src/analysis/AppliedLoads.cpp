@@ -98,32 +98,39 @@ struct StationRange {
     int End;  // one past the last
 };
 
+/// Fills the table column by column, each of them from end to end.
 class StationFiller {
 public:
     StationFiller(double span, StationTable& stations) : line{span, LastStation}, table(stations)
     {
-        table.Clear();
+        // In two parts, the first of which is exact times i, so that a station at 7 ft stands at 7 ft.
+        const double coarseStep = Single(span / LastStation);
+        const double restOfStep = (span - LastStation * coarseStep) / LastStation;
         StationTable::Column& position = table[StationColumn::Position];
         for (std::size_t i = 0; i < StationCount; ++i) {
-            place[i] = line.PlaceOf(static_cast<int>(i));
+            const auto steps = static_cast<double>(i);
+            place[i] = steps * coarseStep + steps * restOfStep;
             position[i] = Single(place[i]);
         }
     }
 
     void AddPoint(std::size_t slot, double load, double distance)
     {
-        const StationRange beyond{line.FirstBeyond(distance), StationCount};
-        AddConcentrated(beyond, load, distance, table.ForSlot(StationColumn::PointMoment, slot),
-                        table.ForSlot(StationColumn::PointShear, slot));
+        const SlotColumns columns = ColumnsOf(StationColumn::PointMoment, StationColumn::PointShear, slot);
+        const std::size_t firstBeyond = FirstBeyond(distance);
+        Clear(columns, firstBeyond);
+        AddConcentrated(columns, firstBeyond, load, distance);
     }
 
     void AddPartial(std::size_t slot, double load, double begin, double end)
     {
-        StationTable::Column& moment = table.ForSlot(StationColumn::PartialMoment, slot);
-        StationTable::Column& shear = table.ForSlot(StationColumn::PartialShear, slot);
-        const int firstBeyondEnd = line.FirstBeyond(end);
-        AddSpread({line.FirstBeyond(begin), firstBeyondEnd}, load, begin, moment, shear);
-        AddConcentrated({firstBeyondEnd, StationCount}, load * (end - begin), (end - begin) / 2 + begin, moment, shear);
+        const SlotColumns columns =
+            ColumnsOf(StationColumn::PartialMoment, StationColumn::PartialShear, slot);
+        const std::size_t firstBeyondBegin = FirstBeyond(begin);
+        const std::size_t firstBeyondEnd = FirstBeyond(end);
+        Clear(columns, firstBeyondBegin);
+        AddSpread(columns, {firstBeyondBegin, firstBeyondEnd}, load, begin);
+        AddConcentrated(columns, firstBeyondEnd, load * (end - begin), (end - begin) / 2 + begin);
     }
 
     void FillNetColumns(double reaction, double uniform)
@@ -137,28 +144,63 @@ public:
         }
     }
 
-private:
-    void AddConcentrated(StationRange range, double load, double distance, StationTable::Column& moment,
-                         StationTable::Column& shear)
+    void LeavePoint(std::size_t slot)
     {
-        for (auto i = static_cast<std::size_t>(range.First); i < static_cast<std::size_t>(range.End); ++i) {
+        Clear(ColumnsOf(StationColumn::PointMoment, StationColumn::PointShear, slot), StationCount);
+    }
+
+    void LeavePartial(std::size_t slot)
+    {
+        Clear(ColumnsOf(StationColumn::PartialMoment, StationColumn::PartialShear, slot), StationCount);
+    }
+
+private:
+    struct SlotColumns {
+        StationTable::Column& Moment;
+        StationTable::Column& Shear;
+    };
+
+    struct StationRange {
+        std::size_t First;
+        std::size_t End;  // one past the last
+    };
+
+    SlotColumns ColumnsOf(StationColumn moment, StationColumn shear, std::size_t slot)
+    {
+        return {table.ForSlot(moment, slot), table.ForSlot(shear, slot)};
+    }
+
+    std::size_t FirstBeyond(double distance) const
+    {
+        return static_cast<std::size_t>(line.FirstBeyond(distance));
+    }
+
+    static void Clear(const SlotColumns& columns, std::size_t end)
+    {
+        std::fill_n(columns.Moment.begin(), end, 0.0F);
+        std::fill_n(columns.Shear.begin(), end, 0.0F);
+    }
+
+    void AddConcentrated(const SlotColumns& columns, std::size_t first, double load, double distance)
+    {
+        for (std::size_t i = first; i < StationCount; ++i) {
             const double takenOff = (place[i] - distance) * load;
-            moment[i] = Single(takenOff);
-            shear[i] = Single(load);
+            columns.Moment[i] = Single(takenOff);
+            columns.Shear[i] = Single(load);
             net.Moment[i] += takenOff;
             net.Shear[i] += load;
         }
     }
 
-    void AddSpread(StationRange range, double load, double begin, StationTable::Column& moment,
-                   StationTable::Column& shear)
+    void AddSpread(const SlotColumns& columns, StationRange range, double load, double begin)
     {
-        for (auto i = static_cast<std::size_t>(range.First); i < static_cast<std::size_t>(range.End); ++i) {
+        for (std::size_t i = range.First; i < range.End; ++i) {
             const double length = place[i] - begin;
-            moment[i] = Single(length / 2 * length * load);
-            shear[i] = Single(length * load);
-            net.Moment[i] += length / 2 * length * load;
-            net.Shear[i] += length * load;
+            const double shear = length * load;
+            columns.Moment[i] = Single(length / 2 * shear);
+            columns.Shear[i] = Single(shear);
+            net.Moment[i] += length / 2 * shear;
+            net.Shear[i] += shear;
         }
     }
 
@@ -170,20 +212,27 @@ private:
 
 void FillStations(const BeamNumbers& beam, double reaction, StationTable& table)
 {
+    if (beam.IsContinuous()) {
+        table.Clear();
+    }
     StationFiller filler(beam.Span, table);
     if (beam.IsContinuous()) {
         return;
     }
     const LoadNumbers& loads = beam.Loads;
     const SpanSlots slots = SlotsOnSpan(beam.Support);
-    for (std::size_t k = 0; k < slots.Points; ++k) {
-        if (loads.PT[k] > 0) {
+    for (std::size_t k = 0; k < PointSlotCount; ++k) {
+        if (k < slots.Points && loads.PT[k] > 0) {
             filler.AddPoint(k, loads.PT[k], loads.DIS[k]);
+        } else {
+            filler.LeavePoint(k);
         }
     }
-    for (std::size_t k = 0; k < slots.Partials; ++k) {
-        if (loads.PAR[k] > 0) {
+    for (std::size_t k = 0; k < PartialSlotCount; ++k) {
+        if (k < slots.Partials && loads.PAR[k] > 0) {
             filler.AddPartial(k, loads.PAR[k], loads.BEGP[k], loads.ENDP[k]);
+        } else {
+            filler.LeavePartial(k);
         }
     }
     filler.FillNetColumns(reaction, loads.UNIF);
@@ -294,7 +343,8 @@ LoadTotals SumLoads(const BeamNumbers& beam)
     return sums;
 }
 
-AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt, StationTable& table)
+AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt,
+                                      StationTable& table)
 {
     AppliedLoadResult result;
     StoreTotals(beam, result);
@@ -317,18 +367,26 @@ AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInf
         ReplaceHipValleyReactions(beam, result);
     }
     result.HasLiveDeflFlag = HasLiveLoad(beam.Loads);
-    result.TotalPass = EquivalentLoads(beam, TotalLoads(beam.Loads), result.OverhangFt);
-    result.LivePass = EquivalentLoads(beam, LiveLoads(beam.Loads), result.OverhangFt);
+    result.Deflecting = EquivalentLoads(beam, result.OverhangFt);
     return result;
 }
 
 bool IsFinite(const AppliedLoadResult& result)
 {
-    const std::array values{result.TotalAppliedLoad,      result.TotalAppliedLive, result.R1Applied,
-                            result.R2Applied,             result.R1Live,           result.R2Live,
-                            result.MaxMomentApplied,      result.OverhangLoadSum,  result.OverhangFt,
-                            result.OverhangMomentApplied, result.PointTotalSum,    result.PartialTotalSum,
-                            result.IncreasingTotalLoad,   result.IncreasingLiveLoad};
+    const std::array values{result.TotalAppliedLoad,
+                            result.TotalAppliedLive,
+                            result.R1Applied,
+                            result.R2Applied,
+                            result.R1Live,
+                            result.R2Live,
+                            result.MaxMomentApplied,
+                            result.OverhangLoadSum,
+                            result.OverhangFt,
+                            result.OverhangMomentApplied,
+                            result.PointTotalSum,
+                            result.PartialTotalSum,
+                            result.IncreasingTotalLoad,
+                            result.IncreasingLiveLoad};
     return std::all_of(values.begin(), values.end(), [](float value) { return std::isfinite(value); });
 }
 

@@ -13,7 +13,8 @@ namespace kordavan {
 /// The loads are those of the beam as adjusted for slope and spacing; Span must be above 0. The moment comes
 /// from the table (200 steps over the span between R1 and R2), that of several spans from closed forms.
 /// @param previousInflectionFt  kept when an overhanging beam has no negative moment at any station
-AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt, StationTable& table);
+AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt,
+                                      StationTable& table);
 
 /// Overhang length by the numbers: the first of DIS[4], DIS[5], ENDP[3], ENDP[4] that is at least as large as
 /// the other three, ft. None only when one of them is not a number.

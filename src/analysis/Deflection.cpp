@@ -31,10 +31,13 @@ double SpanCoefficient(const BeamNumbers& beam)
     return beam.IsContinuous() ? CoefficientsOf(beam).Deflection : SimpleSpanCoefficient;
 }
 
-double SpanDeflection(const BeamNumbers& beam, const BeamInches& in, double selfWeight, const DeflectionLoads& pass)
+double SpanDeflection(const BeamNumbers& beam, const BeamInches& in, double selfWeight,
+                      const DeflectionLoads& pass)
 {
-    const double down = in.Span * in.Span * in.Span * SpanCoefficient(beam) * (selfWeight * beam.Span + pass.OnSpan);
-    const double selfLift = in.Span * in.Span * in.Overhang * in.Overhang * (selfWeight / InchesPerFoot) * OverhangUniformLift;
+    const double down =
+        in.Span * in.Span * in.Span * SpanCoefficient(beam) * (selfWeight * beam.Span + pass.OnSpan);
+    const double selfLift =
+        in.Span * in.Span * in.Overhang * in.Overhang * (selfWeight / InchesPerFoot) * OverhangUniformLift;
     return (down - (pass.SpanLift + selfLift)) / in.EI;
 }
 
@@ -64,32 +67,32 @@ float WithCreep(double total, float live, float creep)
     return Single((total - live) * creep + live);
 }
 
-void ComputeSpan(const BeamNumbers& beam, const BeamInches& in, double selfWeight, const AppliedLoadResult& applied,
-                 DeflectionResult& result)
+void ComputeSpan(const BeamNumbers& beam, const BeamInches& in, double selfWeight,
+                 const AppliedLoadResult& applied, DeflectionResult& result)
 {
     if (applied.HasLiveDeflFlag) {
-        result.LiveDeflIn = Single(SpanDeflection(beam, in, 0, applied.LivePass));
+        result.LiveDeflIn = Single(SpanDeflection(beam, in, 0, applied.Deflecting.Live));
         result.AllowLiveDeflIn = Single(in.Span / beam.LMaxDefl);
         result.LiveDeflRatio = LengthOver(in.Span, result.LiveDeflIn);
     }
-    result.TotalDeflIn =
-        WithCreep(SpanDeflection(beam, in, selfWeight, applied.TotalPass), result.LiveDeflIn, result.CreepFactor);
+    result.TotalDeflIn = WithCreep(SpanDeflection(beam, in, selfWeight, applied.Deflecting.Total),
+                                   result.LiveDeflIn, result.CreepFactor);
     result.DeadDeflIn = result.TotalDeflIn - result.LiveDeflIn;
     result.AllowTotalDeflIn = Single(in.Span / beam.MaxDefl);
     result.TotalDeflRatio = LengthOver(in.Span, result.TotalDeflIn);
 }
 
-void ComputeTip(const BeamNumbers& beam, const BeamInches& in, double selfWeight, const AppliedLoadResult& applied,
-                DeflectionResult& result)
+void ComputeTip(const BeamNumbers& beam, const BeamInches& in, double selfWeight,
+                const AppliedLoadResult& applied, DeflectionResult& result)
 {
     const double twiceOverhang = 2 * in.Overhang;
     if (applied.HasLiveDeflFlag) {
-        result.TipLiveDeflIn = Single(TipDeflection(in, 0, applied.LivePass));
+        result.TipLiveDeflIn = Single(TipDeflection(in, 0, applied.Deflecting.Live));
         result.AllowTipLiveDeflIn = Single(twiceOverhang / beam.LMaxDefl);
         result.TipLiveDeflRatio = LengthOver(twiceOverhang, result.TipLiveDeflIn);
     }
-    result.TipDeflIn =
-        WithCreep(TipDeflection(in, selfWeight, applied.TotalPass), result.TipLiveDeflIn, result.CreepFactor);
+    result.TipDeflIn = WithCreep(TipDeflection(in, selfWeight, applied.Deflecting.Total),
+                                 result.TipLiveDeflIn, result.CreepFactor);
     result.TipDeadDeflIn = result.TipDeflIn - result.TipLiveDeflIn;
     result.AllowTipDeflIn = Single(twiceOverhang / beam.MaxDefl);
     result.TipDeflRatio = LengthOver(twiceOverhang, result.TipDeflIn);
@@ -97,8 +100,9 @@ void ComputeTip(const BeamNumbers& beam, const BeamInches& in, double selfWeight
 
 }  // namespace
 
-DeflectionResult ComputeDeflection(const BeamNumbers& beam, const SectionProps& section, double EPrimeMillions,
-                                   const AppliedLoadResult& applied, const CandidateLoadResult& loads)
+DeflectionResult ComputeDeflection(const BeamNumbers& beam, const SectionProps& section,
+                                   double EPrimeMillions, const AppliedLoadResult& applied,
+                                   const CandidateLoadResult& loads)
 {
     const BeamInches in{.Span = InchesPerFoot * beam.Span,
                         .Overhang = InchesPerFoot * applied.OverhangFt,
@@ -114,8 +118,8 @@ DeflectionResult ComputeDeflection(const BeamNumbers& beam, const SectionProps& 
 
 bool IsFinite(const DeflectionResult& result)
 {
-    const std::array values{result.TotalDeflIn, result.LiveDeflIn, result.TipDeflIn, result.TipLiveDeflIn,
-                            result.AllowTotalDeflIn, result.AllowLiveDeflIn};
+    const std::array values{result.TotalDeflIn,   result.LiveDeflIn,       result.TipDeflIn,
+                            result.TipLiveDeflIn, result.AllowTotalDeflIn, result.AllowLiveDeflIn};
     return std::all_of(values.begin(), values.end(), [](float value) { return std::isfinite(value); });
 }
 

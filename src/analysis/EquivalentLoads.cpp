@@ -1,7 +1,9 @@
 #include "analysis/EquivalentLoads.h"
 
+#include <array>
 #include <cstddef>
 
+#include "analysis/LoadView.h"
 #include "analysis/Stations.h"
 
 namespace kordavan {
@@ -44,7 +46,8 @@ void AddOverhangPoint(double P, double a, double spanIn, DeflectionLoads& sums)
 }
 
 /// The strip's last factor is the overhang less its own place, unlike that of a point load.
-void AddOverhangPartial(double w, const StationSums& i, double spanIn, double overhangIn, DeflectionLoads& sums)
+void AddOverhangPartial(double w, const StationSums& i, double spanIn, double overhangIn,
+                        DeflectionLoads& sums)
 {
     const double dcIn = overhangIn / OverhangSteps;
     const double sumOfCubics = dcIn * dcIn * (overhangIn * i.Second - dcIn * i.Third);
@@ -52,18 +55,55 @@ void AddOverhangPartial(double w, const StationSums& i, double spanIn, double ov
     sums.SpanLift += spanIn * spanIn * (dcIn / InchesPerFoot * w) * (dcIn * i.First) * EndMomentLift;
 }
 
-void AddOverhang(const LoadView& loads, double spanIn, double overhangFt, DeflectionLoads& sums)
+/// One pass over the loads, total or live, and what it comes to.
+struct Pass {
+    LoadView Loads;
+    DeflectionLoads& Sums;
+};
+
+using Passes = std::array<Pass, 2>;
+
+void AddSpan(const BeamNumbers& beam, double overhangIn, const Passes& passes)
 {
+    const double L = beam.Span;
+    const SpanSlots slots = SlotsOnSpan(beam.Support);
+    const StationLine line{L, SpanSteps};
+    for (const auto& [loads, sums] : passes) {
+        for (std::size_t k = 0; k < slots.Points; ++k) {
+            if (loads.Point[k] > 0) {
+                AddSpanPoint(loads.Point[k], loads.Distance[k], L, overhangIn, sums);
+            }
+        }
+    }
+    for (std::size_t k = 0; k < slots.Partials; ++k) {
+        if (beam.Loads.PAR[k] <= 0) {
+            continue;
+        }
+        const StationSums strips = SumStationsBetween(line, beam.Loads.BEGP[k], beam.Loads.ENDP[k]);
+        for (const auto& [loads, sums] : passes) {
+            AddSpanPartial(loads.Partial[k], strips, L, overhangIn, sums);
+        }
+    }
+}
+
+void AddOverhang(const BeamNumbers& beam, double overhangFt, const Passes& passes)
+{
+    const double spanIn = InchesPerFoot * beam.Span;
     const StationLine line{overhangFt, OverhangSteps};
-    for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
-        if (loads.Point[k] > 0) {
-            AddOverhangPoint(loads.Point[k], loads.Distance[k], spanIn, sums);
+    for (const auto& [loads, sums] : passes) {
+        for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
+            if (loads.Point[k] > 0) {
+                AddOverhangPoint(loads.Point[k], loads.Distance[k], spanIn, sums);
+            }
         }
     }
     for (std::size_t k = FirstOverhangPartial; k < PartialSlotCount; ++k) {
-        if (loads.Partial[k] > 0) {
-            AddOverhangPartial(loads.Partial[k], SumStationsBetween(line, loads.Begin[k], loads.End[k]), spanIn,
-                               InchesPerFoot * overhangFt, sums);
+        if (beam.Loads.PAR[k] <= 0) {
+            continue;
+        }
+        const StationSums strips = SumStationsBetween(line, beam.Loads.BEGP[k], beam.Loads.ENDP[k]);
+        for (const auto& [loads, sums] : passes) {
+            AddOverhangPartial(loads.Partial[k], strips, spanIn, InchesPerFoot * overhangFt, sums);
         }
     }
 }
@@ -75,34 +115,22 @@ double UniformTipLift(double spanIn, double overhangIn, double w)
     return spanIn * spanIn * spanIn * (w / InchesPerFoot) * overhangIn / 24;
 }
 
-DeflectionLoads EquivalentLoads(const BeamNumbers& beam, const LoadView& loads, double overhangFt)
+DeflectionPasses EquivalentLoads(const BeamNumbers& beam, double overhangFt)
 {
-    const double L = beam.Span;
-    const double spanIn = InchesPerFoot * L;
+    DeflectionPasses result;
+    const Passes passes{Pass{TotalLoads(beam.Loads), result.Total}, Pass{LiveLoads(beam.Loads), result.Live}};
     const double overhangIn = InchesPerFoot * overhangFt;
-    DeflectionLoads sums;
-    sums.OnSpan = loads.Uniform * L;
-    if (beam.IsContinuous()) {
-        return sums;
+    for (const auto& [loads, sums] : passes) {
+        sums.OnSpan = loads.Uniform * beam.Span;
+        sums.TipLift = UniformTipLift(InchesPerFoot * beam.Span, overhangIn, loads.Uniform);
     }
-    sums.TipLift = UniformTipLift(spanIn, overhangIn, loads.Uniform);
-    const SpanSlots slots = SlotsOnSpan(beam.Support);
-    const StationLine line{L, SpanSteps};
-    for (std::size_t k = 0; k < slots.Points; ++k) {
-        if (loads.Point[k] > 0) {
-            AddSpanPoint(loads.Point[k], loads.Distance[k], L, overhangIn, sums);
-        }
-    }
-    for (std::size_t k = 0; k < slots.Partials; ++k) {
-        if (loads.Partial[k] > 0) {
-            AddSpanPartial(loads.Partial[k], SumStationsBetween(line, loads.Begin[k], loads.End[k]), L, overhangIn,
-                           sums);
-        }
+    if (!beam.IsContinuous()) {
+        AddSpan(beam, overhangIn, passes);
     }
     if (beam.IsOverhanging()) {
-        AddOverhang(loads, spanIn, overhangFt, sums);
+        AddOverhang(beam, overhangFt, passes);
     }
-    return sums;
+    return result;
 }
 
 }  // namespace kordavan

@@ -6,11 +6,11 @@ namespace kordavan {
 
 /// Either the total or the live values of a load set, with the places they share.
 struct LoadView {
-    double Uniform;              // plf
-    const PointValues& Point;    // lb
-    const PointValues& Distance; // ft
+    double Uniform;                // plf
+    const PointValues& Point;      // lb
+    const PointValues& Distance;   // ft
     const PartialValues& Partial;  // plf
-    const PartialValues& Begin;  // ft
+    const PartialValues& Begin;    // ft
     const PartialValues& End;
 };
 

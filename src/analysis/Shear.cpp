@@ -32,7 +32,8 @@ LoadSlots SpanLoads(const BeamNumbers& beam)
     return {{0, slots.Points}, {0, slots.Partials}};
 }
 
-constexpr LoadSlots OverhangLoads{{FirstOverhangPoint, PointSlotCount}, {FirstOverhangPartial, PartialSlotCount}};
+constexpr LoadSlots OverhangLoads{{FirstOverhangPoint, PointSlotCount},
+                                  {FirstOverhangPartial, PartialSlotCount}};
 
 /// The part of a point load that is left out when it stands nearer to the support than the depth D.
 double PointInside(const BeamNumbers& beam, double load, double fromSupport, double D)
@@ -163,19 +164,22 @@ void ContinuousShear(const BeamNumbers& beam, double D, const CandidateLoadResul
     const double w = beam.Loads.UNIF;
     const double s = loads.SelfWeightPlf;
     constexpr double threeSpanShear = 0.6;
-    result.ShearMax = beam.ThreeSpan ? Single((beam.Span * w + s * beam.Span) * threeSpanShear) : loads.R2Total / 2;
+    result.ShearMax =
+        beam.ThreeSpan ? Single((beam.Span * w + s * beam.Span) * threeSpanShear) : loads.R2Total / 2;
     result.ShearReduced = Single(result.ShearMax - (s + w) * D);
 }
 
 double DesignMoment(const BeamNumbers& beam, const CandidateLoadResult& loads)
 {
-    return beam.IsOverhanging() ? std::max(loads.MaxMomentFtLb, loads.OverhangMomentTotal) : loads.MaxMomentFtLb;
+    return beam.IsOverhanging() ? std::max(loads.MaxMomentFtLb, loads.OverhangMomentTotal)
+                                : loads.MaxMomentFtLb;
 }
 
 }  // namespace
 
-ShearResult ComputeShear(const BeamNumbers& beam, const SectionProps& section, const AllowableStresses& allowable,
-                         const AppliedLoadResult& applied, const CandidateLoadResult& loads)
+ShearResult ComputeShear(const BeamNumbers& beam, const SectionProps& section,
+                         const AllowableStresses& allowable, const AppliedLoadResult& applied,
+                         const CandidateLoadResult& loads)
 {
     ShearResult result;
     result.SectionRequired = Single(DesignMoment(beam, loads) * InchesPerFoot / allowable.FbPrime);

@@ -17,7 +17,8 @@ struct AllowableStresses {
 /// Within its depth from a support a point load is left out in full under NDS 1997 and in proportion to its
 /// nearness under later editions (NDS 3.4.3.1). Both shears are always worked out; ReduceShear chooses which
 /// of them makes the stress.
-ShearResult ComputeShear(const BeamNumbers& beam, const SectionProps& section, const AllowableStresses& allowable,
-                         const AppliedLoadResult& applied, const CandidateLoadResult& loads);
+ShearResult ComputeShear(const BeamNumbers& beam, const SectionProps& section,
+                         const AllowableStresses& allowable, const AppliedLoadResult& applied,
+                         const CandidateLoadResult& loads);
 
 }  // namespace kordavan

@@ -1,7 +1,6 @@
 #include "analysis/Stations.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kordavan {
 
@@ -17,11 +16,11 @@ bool IsBefore(const StationLine& line, int station, double place)
     return station * line.Length < place * line.Steps;
 }
 
-/// A station within one of the place, to search from.
+/// A station within one of the place, which is not negative, to search from.
 int StationNear(const StationLine& line, double place)
 {
-    const double steps = std::floor(place * line.Steps / line.Length);
-    return static_cast<int>(std::clamp(steps, -1.0, line.Steps + 1.0));
+    const double steps = place * line.Steps / line.Length;
+    return steps < line.Steps ? static_cast<int>(steps) : line.Steps;
 }
 
 /// Sums over i = 0 to last.
@@ -36,7 +35,7 @@ StationSums SumsUpTo(double last)
 
 int StationLine::FirstBeyond(double place) const
 {
-    int station = std::max(StationNear(*this, place), 0);
+    int station = StationNear(*this, place);
     while (station > 0 && IsBeyond(*this, station - 1, place)) {
         --station;
     }

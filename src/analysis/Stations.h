@@ -12,12 +12,10 @@ struct StationLine {
     double Length = 0;  // ft
     int Steps = 0;
 
-    double PlaceOf(int station) const { return station * (Length / Steps); }
-
-    /// The first station beyond a place, Steps + 1 when there is none.
+    /// The first station beyond a place (0 or more), Steps + 1 when there is none.
     int FirstBeyond(double place) const;
 
-    /// The last station before a place, -1 when there is none.
+    /// The last station before a place (0 or more), -1 when there is none.
     int LastBefore(double place) const;
 };
 

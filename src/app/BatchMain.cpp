@@ -2,11 +2,12 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <exception>
 #include <iostream>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "batch/AnswerLine.h"
@@ -40,7 +41,7 @@ bool AnswerFile(const std::string& name, int jobs, kordavan::LineAnswer answer)
 {
     const int input = ::open(name.c_str(), O_RDONLY | O_CLOEXEC);
     if (input < 0) {
-        std::cerr << "kordavan-batch: " << name << ": " << std::strerror(errno) << '\n';
+        std::cerr << "kordavan-batch: " << name << ": " << std::generic_category().message(errno) << '\n';
         return false;
     }
     const bool answered = AnswerOne(input, name, jobs, answer);
@@ -53,7 +54,9 @@ int Run(int argc, char** argv)
     CLI::App app{"Checks structural members: one JSON request a line in, one JSON answer a line out."};
     app.set_version_flag("--version", std::string(kordavan::VersionText));
     int jobs = 1;
-    app.add_option("--jobs", jobs, "Number of threads")->check(CLI::Range(1, MostJobs))->capture_default_str();
+    app.add_option("--jobs", jobs, "Number of threads")
+        ->check(CLI::Range(1, MostJobs))
+        ->capture_default_str();
     bool readable = false;
     app.add_flag("--report", readable, "Print readable reports in place of JSON answers");
     std::vector<std::string> files;

@@ -39,7 +39,8 @@ void AnswerBeam(const JsonValue& request, const JsonValue* id, AnswerWriter& ans
     WriteOutcome(id, run.User, run.IsDone(), answer);
     if (run.Analysed) {
         WriteCriteria(run.Work, answer);
-        WriteAnalysis(run.Work.Analysis, run.Tested ? AnalysisPart::WithCandidate : AnalysisPart::AppliedLoads, answer);
+        WriteAnalysis(run.Work.Analysis,
+                      run.Tested ? AnalysisPart::WithCandidate : AnalysisPart::AppliedLoads, answer);
     }
     if (run.Analysed && run.IsDone() && run.WantsStations) {
         WriteStations(run.Work.Stations, answer);

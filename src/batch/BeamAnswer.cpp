@@ -17,7 +17,8 @@ struct FloatField {
 };
 
 template <typename Record, std::size_t Count>
-void WriteFields(const Record& record, const std::array<FloatField<Record>, Count>& fields, AnswerWriter& answer)
+void WriteFields(const Record& record, const std::array<FloatField<Record>, Count>& fields,
+                 AnswerWriter& answer)
 {
     for (const FloatField<Record>& field : fields) {
         answer.Field(field.Name, record.*field.Value);
@@ -101,8 +102,8 @@ constexpr std::array ServiceFields{
 using AdjustedField = FloatField<AdjustedValues>;
 
 constexpr std::array AdjustedFields{
-    AdjustedField{"FbAdj", &AdjustedValues::FbAdj},         AdjustedField{"FbStar", &AdjustedValues::FbStar},
-    AdjustedField{"FvAdj", &AdjustedValues::FvAdj},         AdjustedField{"FcPerpAdj", &AdjustedValues::FcPerpAdj},
+    AdjustedField{"FbAdj", &AdjustedValues::FbAdj}, AdjustedField{"FbStar", &AdjustedValues::FbStar},
+    AdjustedField{"FvAdj", &AdjustedValues::FvAdj}, AdjustedField{"FcPerpAdj", &AdjustedValues::FcPerpAdj},
     AdjustedField{"EAdj", &AdjustedValues::EAdj},
 };
 
@@ -170,10 +171,11 @@ struct SlendernessNames {
 };
 
 constexpr SlendernessNames SpanNames{"LuIn", "LeIn", "Rb", "RbOver50", "KbE", "FbE", "FbEOverFbStar"};
-constexpr SlendernessNames OverhangNames{"CantLuIn", "CantLeIn", "CantRb", "CantRbOver50", "CantKbE", "CantFbE",
-                                         "CantFbEOverFbStar"};
+constexpr SlendernessNames OverhangNames{"CantLuIn", "CantLeIn", "CantRb",           "CantRbOver50",
+                                         "CantKbE",  "CantFbE",  "CantFbEOverFbStar"};
 
-void WriteSlenderness(const SlendernessResult& slenderness, const SlendernessNames& names, AnswerWriter& answer)
+void WriteSlenderness(const SlendernessResult& slenderness, const SlendernessNames& names,
+                      AnswerWriter& answer)
 {
     answer.Field(names.LuIn, slenderness.LuIn);
     answer.Field(names.LeIn, slenderness.LeIn);

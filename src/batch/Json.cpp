@@ -1,5 +1,6 @@
 #include "batch/Json.h"
 
+#include "core/Message.h"
 #include "core/NumberText.h"
 
 namespace kordavan {
@@ -20,10 +21,7 @@ void FieldPath::Fail(std::string_view fault) const
 std::string FieldPath::Text() const
 {
     std::string text = outer == nullptr ? std::string{} : outer->Text() + ".";
-    text += name;
-    if (isItem) {
-        text += "[" + std::to_string(index) + "]";
-    }
+    text += isItem ? BoxName(name, index) : std::string(name);
     return text;
 }
 

@@ -11,8 +11,8 @@ public:
     explicit LineBlocks(int fileDescriptor) : input(fileDescriptor) {}
 
     /// The next whole lines, each with its line break (the last of the input is given one); false at the end.
-    /// Waits for no more than one line. Of a line longer than `MostLineBytes` only so much is kept that it is seen
-    /// to be longer.
+    /// Waits for no more than one line. Of a line longer than `MostLineBytes` only so much is kept that it is
+    /// seen to be longer.
     bool Next(std::string& lines);
 
     /// True when reading has ended because the input could not be read.

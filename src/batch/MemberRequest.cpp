@@ -64,8 +64,8 @@ void ReadMember(const JsonValue& member, const FieldPath& path, SpeciesGroup gro
     for (const JsonValue::Member& json : ObjectOf(member, path).GetObject()) {
         const std::string_view name = NameOf(json);
         const FieldPath fieldPath = path.Field(name);
-        const auto field =
-            std::find_if(fields.begin(), fields.end(), [name](const MemberField& row) { return row.Name == name; });
+        const auto field = std::find_if(fields.begin(), fields.end(),
+                                        [name](const MemberField& row) { return row.Name == name; });
         if (field == fields.end()) {
             fieldPath.Fail("no such field in this material group");
         }

@@ -70,10 +70,7 @@ private:
         return line.substr(0, blank == std::string_view::npos || blank == 0 ? width : blank);
     }
 
-    void Put(std::string_view text)
-    {
-        std::copy(text.begin(), text.end(), out.Push(text.size()));
-    }
+    void Put(std::string_view text) { std::copy(text.begin(), text.end(), out.Push(text.size())); }
 
     rapidjson::StringBuffer& out;
 };
@@ -109,14 +106,15 @@ std::array<CheckRow, 6> ChecksOf(const TestReport& report)
              {report.Label9, report.DeflReq, report.DeflProp, report.DeflStatus, report.DeflPercent},
              {report.Label12, report.LDeflReq, report.LDeflProp, report.LDeflStatus, report.LDeflPercent},
              {report.Label13, report.OHDeflReq, report.OHDeflProp, report.OHDeflStatus, report.OHDeflPercent},
-             {report.Label14, report.OHLDeflReq, report.OHLDeflProp, report.OHLDeflStatus, report.OHLDeflPercent}}};
+             {report.Label14, report.OHLDeflReq, report.OHLDeflProp, report.OHLDeflStatus,
+              report.OHLDeflPercent}}};
 }
 
 std::string VerdictText(const MemberTestResult& result, const std::array<CheckRow, 6>& checks)
 {
-    const auto governing = std::max_element(checks.begin(), checks.end(), [](const CheckRow& a, const CheckRow& b) {
-        return Val(a.Percent) < Val(b.Percent);
-    });
+    const auto governing = std::max_element(
+        checks.begin(), checks.end(),
+        [](const CheckRow& a, const CheckRow& b) { return Val(a.Percent) < Val(b.Percent); });
     const std::string_view status = result.Overall.empty() ? "OK with NO SPLITS" : result.Overall;
     std::string text(status);
     text += ", governed by ";
@@ -152,16 +150,17 @@ void WriteMember(const Session& session, ReportText& text)
     text.Captioned("", report.DeadDefl);
     text.Captioned("Reactions", report.Label10);
     text.Captioned("", report.Label15);
-    for (const std::string& note : {report.SmallChoice, report.DeflTooHigh, report.NoSplitLabel, report.Unbalancedlabel}) {
+    for (const std::string& note :
+         {report.SmallChoice, report.DeflTooHigh, report.NoSplitLabel, report.Unbalancedlabel}) {
         text.Captioned("Note", note);
     }
 }
 
 void WriteAppliedLoads(const AnalysisResult& analysis, ReportText& text)
 {
-    text.Captioned("Applied loads", "Moment " + FormatNumber(analysis.MaxMomentApplied, "#,##0") + " ft-lbs, R1 " +
-                                        FormatNumber(analysis.R1Applied, "#,##0") + " lbs, R2 " +
-                                        FormatNumber(analysis.R2Applied, "#,##0") + " lbs");
+    text.Captioned("Applied loads", "Moment " + FormatNumber(analysis.MaxMomentApplied, "#,##0") +
+                                        " ft-lbs, R1 " + FormatNumber(analysis.R1Applied, "#,##0") +
+                                        " lbs, R2 " + FormatNumber(analysis.R2Applied, "#,##0") + " lbs");
 }
 
 void WriteBeam(const BeamRun& run, ReportText& text)

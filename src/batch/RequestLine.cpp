@@ -48,8 +48,9 @@ void ParseRequest(std::string_view line, rapidjson::Document& request)
     }
     request.Parse<flags>(line.data(), line.size());
     if (request.HasParseError()) {
-        throw InvalidRequest("not JSON: " + std::string(rapidjson::GetParseError_En(request.GetParseError())) +
-                             " At byte " + std::to_string(request.GetErrorOffset()) + ".");
+        throw InvalidRequest(
+            "not JSON: " + std::string(rapidjson::GetParseError_En(request.GetParseError())) + " At byte " +
+            std::to_string(request.GetErrorOffset()) + ".");
     }
     if (!request.IsObject()) {
         throw InvalidRequest("an object is expected");

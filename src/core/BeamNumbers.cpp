@@ -15,7 +15,8 @@ template <std::size_t Count>
 std::array<double, Count> ReadAll(const std::array<std::string, Count>& texts)
 {
     std::array<double, Count> values{};
-    std::transform(texts.begin(), texts.end(), values.begin(), [](const std::string& text) { return Val(text); });
+    std::transform(texts.begin(), texts.end(), values.begin(),
+                   [](const std::string& text) { return Val(text); });
     return values;
 }
 

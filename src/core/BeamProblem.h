@@ -22,12 +22,12 @@ using PartialTexts = std::array<std::string, PartialSlotCount>;
 /// The loads as entered: text, since a blank is not a zero. The total (dead plus live) comes first, its live
 /// part has the same name with an L.
 struct LoadSet {
-    std::string UNIF;   // uniform load over the whole span, plf
+    std::string UNIF;  // uniform load over the whole span, plf
     std::string LUNIF;
-    PointTexts PT;      // point loads, lb
+    PointTexts PT;  // point loads, lb
     PointTexts LPT;
-    PointTexts DIS;     // their distance from R1, ft
-    PartialTexts PAR;   // partial uniform loads, plf
+    PointTexts DIS;    // their distance from R1, ft
+    PartialTexts PAR;  // partial uniform loads, plf
     PartialTexts LPAR;
     PartialTexts BEGP;  // their start and end, ft
     PartialTexts ENDP;
@@ -62,9 +62,9 @@ struct BeamProblem {
     std::string ID;
     std::string Descrip;
 
-    std::string Span;         // ft; backspan of an overhanging beam, one span of several
-    std::string UBLtext;      // unbraced length of the compression edge, ft; blank, 0 or "Any"
-    std::string CantUBLtext;  // the same of the overhang
+    std::string Span;              // ft; backspan of an overhanging beam, one span of several
+    std::string UBLtext;           // unbraced length of the compression edge, ft; blank, 0 or "Any"
+    std::string CantUBLtext;       // the same of the overhang
     std::string Dur = "1.00";      // load duration factor, 0.9 to 2.0
     std::string MaxDefl = "240";   // allowable total load deflection, span over this
     std::string LMaxDefl = "360";  // allowable live load deflection, span over this

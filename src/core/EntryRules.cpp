@@ -13,28 +13,32 @@ namespace {
 constexpr std::array Rules{
     EntryRule{"Span", EntryKind::Length,
               "Please enter a valid numeric value for the beam Span in feet (and decimal fraction, if any)"},
-    EntryRule{"UNIF", EntryKind::Load, "Please enter a valid numeric value for the Uniform Load in Lbs Per/Ft."},
+    EntryRule{"UNIF", EntryKind::Load,
+              "Please enter a valid numeric value for the Uniform Load in Lbs Per/Ft."},
     EntryRule{"LUNIF", EntryKind::Load,
               "Please enter a valid numeric value for the Live Uniform Load in Lbs Per/Ft."},
     EntryRule{"PT", EntryKind::Load, "Please enter a valid numeric value for the Point Load."},
     EntryRule{"LPT", EntryKind::Load, "Please enter a valid numeric value for the Live Point Load."},
-    EntryRule{"DIS", EntryKind::Distance,
-              "Please enter a numeric value for the DISTANCE to the point load."},
+    EntryRule{"DIS", EntryKind::Distance, "Please enter a numeric value for the DISTANCE to the point load."},
     EntryRule{"PAR", EntryKind::Load, "Please enter a valid numeric value for the Partial Uniform Load."},
-    EntryRule{"LPAR", EntryKind::Load, "Please enter a valid numeric value for the Live Partial Uniform Load."},
+    EntryRule{"LPAR", EntryKind::Load,
+              "Please enter a valid numeric value for the Live Partial Uniform Load."},
     EntryRule{"BEGP", EntryKind::Distance,
               "Please enter a numeric value for the distance to the START of the Partial Uniform Load."},
     EntryRule{"ENDP", EntryKind::Distance,
               "Please enter a numeric value for the END location of the Partial Uniform Load."},
-    EntryRule{"UBLtext", EntryKind::Unbraced,
-              "Please enter a valid numeric value for the unbraced length in feet (and decimal fraction, if any)"},
-    EntryRule{"CantUBLtext", EntryKind::Unbraced,
-              "Please enter a valid numeric value for the unbraced length of Overhang in feet (enter in the blue "
-              "box)."},
+    EntryRule{
+        "UBLtext", EntryKind::Unbraced,
+        "Please enter a valid numeric value for the unbraced length in feet (and decimal fraction, if any)"},
+    EntryRule{
+        "CantUBLtext", EntryKind::Unbraced,
+        "Please enter a valid numeric value for the unbraced length of Overhang in feet (enter in the blue "
+        "box)."},
     EntryRule{"Pitchtext", EntryKind::Pitch,
               "Please enter a valid numeric value for the roof pitch in feet (and decimal fraction, if any)"},
-    EntryRule{"IncTL", EntryKind::Load,
-              "Please enter a valid numeric value for the Total (LL + DL) Increasing Load in Lbs. per square ft."},
+    EntryRule{
+        "IncTL", EntryKind::Load,
+        "Please enter a valid numeric value for the Total (LL + DL) Increasing Load in Lbs. per square ft."},
     EntryRule{"IncLL", EntryKind::Load,
               "Please enter a valid numeric value for the Live Increasing Load in Lbs. per square ft."},
     EntryRule{"IncUnifTL", EntryKind::Load,
@@ -46,7 +50,8 @@ constexpr std::array Rules{
     EntryRule{"Tribute", EntryKind::Length, "Please enter a valid numeric value for tributary length."},
     EntryRule{"Text1", EntryKind::Load, "Please enter a valid numeric value for the live load PSF."},
     EntryRule{"Text2", EntryKind::Load, "Please enter a valid numeric value for the LL+DL PSF."},
-    EntryRule{"PSF", EntryKind::Load, "Please enter a valid numeric value for the Partial Uniform Sq Ft Load."},
+    EntryRule{"PSF", EntryKind::Load,
+              "Please enter a valid numeric value for the Partial Uniform Sq Ft Load."},
     EntryRule{"LPSF", EntryKind::Load,
               "Please enter a valid numeric value for the Live Partial Uniform Sq Ft Load."},
     EntryRule{"TribPSF", EntryKind::Length,
@@ -76,7 +81,8 @@ bool StandsUnread(EntryKind kind, std::string_view text)
 
 const EntryRule* FindEntryRule(std::string_view box)
 {
-    const auto* const found = std::find_if(Rules.begin(), Rules.end(), [&](const EntryRule& rule) { return rule.Box == box; });
+    const auto* const found =
+        std::find_if(Rules.begin(), Rules.end(), [&](const EntryRule& rule) { return rule.Box == box; });
     return found == Rules.end() ? nullptr : found;
 }
 
@@ -111,7 +117,8 @@ Message DoubtfulDurationWarning()
 {
     return Alert(
         "Are you sure you want to enter this Duration of load?\n"
-        "Please see the Duration of Load 'On Line Help' button, (the small gray square next to Duration of Load), "
+        "Please see the Duration of Load 'On Line Help' button, (the small gray square next to Duration of "
+        "Load), "
         "or see Help for acceptable values.",
         "Dur");
 }

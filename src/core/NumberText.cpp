@@ -98,9 +98,9 @@ LeadingNumber ScanNumber(std::string_view text)
 }
 
 struct NumberFormat {
-    int LeastWhole = 0;      // whole digits always shown
-    int LeastFraction = 0;   // decimals always shown
-    int MostFraction = 0;    // decimals shown at most
+    int LeastWhole = 0;     // whole digits always shown
+    int LeastFraction = 0;  // decimals always shown
+    int MostFraction = 0;   // decimals shown at most
     bool HasPoint = false;
     bool Grouped = false;
 };
@@ -132,12 +132,28 @@ struct Decimal {
     int Exponent = 0;
 };
 
-template <typename Float>
-Decimal ShortestDecimal(Float magnitude)
+constexpr int SignificantDigits = 15;  // of a double, beyond which its digits are noise of its binary form
+
+using NumberBuffer = std::array<char, 40>;
+
+const char* SpellScientific(NumberBuffer& text, float magnitude)
 {
-    std::array<char, 40> text{};
-    const auto [end, error] =
-        std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific);
+    return std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific)
+        .ptr;
+}
+
+const char* SpellScientific(NumberBuffer& text, double magnitude)
+{
+    return std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific,
+                         SignificantDigits - 1)
+        .ptr;
+}
+
+template <typename Float>
+Decimal DecimalOf(Float magnitude)
+{
+    NumberBuffer text{};
+    const char* const end = SpellScientific(text, magnitude);
     Decimal decimal;
     const char* at = text.data();
     for (; at != end && *at != 'e'; ++at) {
@@ -227,7 +243,7 @@ std::string Format(Float value, std::string_view format)
         return {};
     }
     const NumberFormat read = ReadFormat(format);
-    Decimal decimal = ShortestDecimal(std::abs(value));
+    Decimal decimal = DecimalOf(std::abs(value));
     RoundToCount(decimal, decimal.Exponent + read.MostFraction);
     std::string text;
     if (value < 0 && decimal.Count > 0) {
@@ -257,7 +273,8 @@ double Val(std::string_view text)
 bool IsNumeric(std::string_view text)
 {
     const LeadingNumber number = ScanNumber(text);
-    return number.Found && std::all_of(text.begin() + static_cast<std::ptrdiff_t>(number.End), text.end(), IsBlank);
+    return number.Found &&
+           std::all_of(text.begin() + static_cast<std::ptrdiff_t>(number.End), text.end(), IsBlank);
 }
 
 std::string FormatNumber(double value, std::string_view format)
@@ -275,10 +292,9 @@ std::string PlainNumber(double value)
     if (!std::isfinite(value)) {
         return {};
     }
-    constexpr int significantDigits = 15;
-    std::array<char, 32> text{};
+    NumberBuffer text{};
     const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value == 0 ? 0.0 : value,
-                                            std::chars_format::general, significantDigits);
+                                            std::chars_format::general, SignificantDigits);
     return {text.data(), end};
 }
 
@@ -287,9 +303,9 @@ std::string PlainNumber(float value)
     if (!std::isfinite(value)) {
         return {};
     }
-    const auto notation =
-        ReadsWithoutExponent(static_cast<double>(value)) ? std::chars_format::fixed : std::chars_format::scientific;
-    std::array<char, 32> text{};
+    const auto notation = ReadsWithoutExponent(static_cast<double>(value)) ? std::chars_format::fixed
+                                                                           : std::chars_format::scientific;
+    NumberBuffer text{};
     const auto [end, error] =
         std::to_chars(text.data(), text.data() + text.size(), value == 0 ? 0.0F : value, notation);
     return {text.data(), end};

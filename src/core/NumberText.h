@@ -20,7 +20,8 @@ bool IsNumeric(std::string_view text);
 
 /// A number by a format text of '#', '0', ',' and one '.': '0' always shows a digit, '#' only one that is
 /// there, a ',' among the whole digits asks for thousands commas. Halves are rounded away from zero as the
-/// number reads in decimal (2.675 by "0.00" is "2.68"). A value that is not finite gives an empty text.
+/// number reads in decimal, at most 15 digits of it (2.675 by "0.00" is "2.68"). A value that is not finite
+/// gives an empty text.
 std::string FormatNumber(double value, std::string_view format);
 std::string FormatNumber(float value, std::string_view format);
 

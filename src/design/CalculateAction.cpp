@@ -27,20 +27,25 @@ constexpr std::string_view UnbracedBeyondOverhang =
     "The overhang's UNBRACED LENGTH may not be longer than the overhang.\n"
     "Either increase the overhang or decrease the unbraced length of the overhang.";
 constexpr std::string_view OnlyDeadLoad =
-    "Attention:  No live loads have been entered, therefore the Total Loads entered will be treated as only Dead Load.\n"
-    "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical load "
+    "Attention:  No live loads have been entered, therefore the Total Loads entered will be treated as only "
+    "Dead Load.\n"
+    "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical "
+    "load "
     "combination.";
 constexpr std::string_view LargeDeadLoad =
     "Attention:  Your Dead Load is large relative to the total load.\n"
-    "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical load "
+    "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical "
+    "load "
     "combination.";
 constexpr std::string_view SlopedDeadLoad =
-    "Slope Adjustment is checked and no live loads are entered. All total loads are assumed to be entirely Dead Loads "
+    "Slope Adjustment is checked and no live loads are entered. All total loads are assumed to be entirely "
+    "Dead Loads "
     "and will be increased for the slope of the roof.";
 constexpr std::string_view LiveAboveTotalOverall =
     "The overall live load is Larger than the overall total load.  Please re-check the load entries.";
 constexpr std::string_view FaultTitle = "Kordavan Error: Form 1";
-constexpr std::string_view Overflow = "Overflow: the loads or lengths entered are too large to be calculated.";
+constexpr std::string_view Overflow =
+    "Overflow: the loads or lengths entered are too large to be calculated.";
 
 constexpr float WoodDensityFactor = 0.243F;  // plf per in2: 35 lb per cubic foot
 constexpr float SteelDensityFactor = 1.0F;
@@ -60,7 +65,8 @@ Outcome RemindOfTributary(BeamProblem& problem, UserPort& user)
 {
     const LoadSet& loads = problem.Loads;
     const bool forgotten = !loads.Tribute.empty() && !loads.Text2.empty() && loads.UNIF.empty();
-    return forgotten && user.Ask(Question(TributaryReminder)) ? MultiplyTributary(problem, user) : Outcome::Done;
+    return forgotten && user.Ask(Question(TributaryReminder)) ? MultiplyTributary(problem, user)
+                                                              : Outcome::Done;
 }
 
 /// Overhang by comparing the texts as texts, so that "9" is beyond "10"; the question about long overhangs is
@@ -80,7 +86,8 @@ Outcome CheckOverhang(const BeamProblem& problem, const BeamNumbers& beam, UserP
     if (2 * overhang > beam.Span && !user.Ask(Question(LongOverhang))) {
         return Outcome::Refused;
     }
-    return beam.CantUBL > overhang ? Refuse(user, Refusal(UnbracedBeyondOverhang, "CantUBLtext")) : Outcome::Done;
+    return beam.CantUBL > overhang ? Refuse(user, Refusal(UnbracedBeyondOverhang, "CantUBLtext"))
+                                   : Outcome::Done;
 }
 
 void AlertToDeadLoad(const BeamProblem& problem, const LoadTotals& totals, UserPort& user)
@@ -130,7 +137,8 @@ Outcome AdjustAndAnalyse(Session& session, UserPort& user)
     EntriesToRestore restore = session.Restore;
     AdjustEntries(adjusted, RafterSlopeFactor(adjusted), restore);
     const BeamNumbers beam = ReadNumbers(session, adjusted);
-    const AppliedLoadResult applied = ComputeAppliedLoads(beam, session.Analysis.InflectionFt, session.Stations);
+    const AppliedLoadResult applied =
+        ComputeAppliedLoads(beam, session.Analysis.InflectionFt, session.Stations);
     if (!IsFinite(applied)) {
         session.Stations.Clear();
         return RefuseOverflow(user);

@@ -5,11 +5,12 @@
 
 namespace kordavan {
 
-/// The gate between entry and design: reminders, checks, courtesy alerts, adjustment of the load entries and the
-/// analysis of the applied loads.
+/// The gate between entry and design: reminders, checks, courtesy alerts, adjustment of the load entries and
+/// the analysis of the applied loads.
 ///
-/// The loads in the entries are those of the analysis afterwards, until RestoreEntries puts them back. A refusal
-/// tells one message and changes nothing, but for a uniform load that the person has asked to be worked out.
+/// The loads in the entries are those of the analysis afterwards, until RestoreEntries puts them back. A
+/// refusal tells one message and changes nothing, but for a uniform load that the person has asked to be
+/// worked out.
 Outcome CalculateAction(Session& session, UserPort& user);
 
 }  // namespace kordavan

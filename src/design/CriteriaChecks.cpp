@@ -34,13 +34,15 @@ Finding CheckDuration(const BeamProblem& /*problem*/, const BeamNumbers& beam)
     if (beam.Dur == 0) {
         return Refusal(
             "The Duration of Load default for a normal load is 1.0\n"
-            "It may not be zero or empty.  Please click the Duration of Load 'On Line Help' button, (the small gray "
+            "It may not be zero or empty.  Please click the Duration of Load 'On Line Help' button, (the "
+            "small gray "
             "square next to Duration of Load), or see Help.",
             "Dur");
     }
     if (beam.Dur > MostDuration || beam.Dur < LeastDuration) {
         return Refusal(
-            "Your Duration of Load entry may be incorrect.  To choose an acceptable factor, click the Duration of Load "
+            "Your Duration of Load entry may be incorrect.  To choose an acceptable factor, click the "
+            "Duration of Load "
             "'On Line Help' button, (the small gray square next to Duration of Load), or see Help.",
             "Dur");
     }
@@ -54,7 +56,8 @@ Finding CheckPitch(const BeamProblem& problem, const BeamNumbers& /*beam*/)
         return std::nullopt;
     }
     return Refusal(
-        "The Slope Adjustment checkbox is checked. Please either uncheck the slope adjustment checkbox or enter a PITCH "
+        "The Slope Adjustment checkbox is checked. Please either uncheck the slope adjustment checkbox or "
+        "enter a PITCH "
         "in inches so Kordavan can make the adjustment.",
         "Pitchtext");
 }
@@ -65,16 +68,19 @@ Finding CheckPointLoads(const BeamProblem& /*problem*/, const BeamNumbers& beam)
     for (std::size_t k = 0; k < SlotsOnSpan(beam.Support).Points; ++k) {
         const bool loaded = loads.PT[k] > 0 || loads.LPT[k] > 0;
         if (loaded && loads.DIS[k] == 0) {
-            return Refusal("Please enter a Distance from the starting reaction for the Point Load", BoxName("DIS", k));
+            return Refusal("Please enter a Distance from the starting reaction for the Point Load",
+                           BoxName("DIS", k));
         }
         if (beam.Span < loads.DIS[k]) {
             return Refusal(
-                "Please enter a point load Distance from the starting reaction that is within the span of the beam.",
+                "Please enter a point load Distance from the starting reaction that is within the span of "
+                "the beam.",
                 BoxName("DIS", k));
         }
         if (!loaded && loads.DIS[k] > 0) {
-            return Refusal("Please enter a Load to accompany the distance already entered, or clear the distance value",
-                           BoxName("PT", k));
+            return Refusal(
+                "Please enter a Load to accompany the distance already entered, or clear the distance value",
+                BoxName("PT", k));
         }
     }
     return std::nullopt;
@@ -109,8 +115,9 @@ Finding CheckPartialLoads(const BeamProblem& /*problem*/, const BeamNumbers& bea
                            BoxName("ENDP", k));
         }
         if (!loaded && (loads.BEGP[k] > 0 || loads.ENDP[k] > 0)) {
-            return Refusal("Please enter a Partial Uniform Load or clear the beginning (and/or) ending distances",
-                           BoxName("PAR", k));
+            return Refusal(
+                "Please enter a Partial Uniform Load or clear the beginning (and/or) ending distances",
+                BoxName("PAR", k));
         }
     }
     return std::nullopt;
@@ -120,8 +127,9 @@ Finding CheckPartialEnds(const BeamProblem& /*problem*/, const BeamNumbers& beam
 {
     for (std::size_t k = 0; k < SlotsOnSpan(beam.Support).Partials; ++k) {
         if (IsPartialLoaded(beam.Loads, k) && beam.Span < beam.Loads.ENDP[k]) {
-            return Refusal("Please enter an End location (for the Partial Uniform Load) that is less than the Span",
-                           BoxName("ENDP", k));
+            return Refusal(
+                "Please enter an End location (for the Partial Uniform Load) that is less than the Span",
+                BoxName("ENDP", k));
         }
     }
     return std::nullopt;
@@ -131,8 +139,9 @@ Finding CheckPartialBeginnings(const BeamProblem& problem, const BeamNumbers& be
 {
     for (std::size_t k = 0; k < PartialSlotCount; ++k) {
         if (problem.Loads.BEGP[k].empty() && beam.Loads.PAR[k] > 0) {
-            return Refusal("Please enter a ZERO for Partial Uniform loads beginning exactly on the starting Reaction",
-                           BoxName("BEGP", k));
+            return Refusal(
+                "Please enter a ZERO for Partial Uniform loads beginning exactly on the starting Reaction",
+                BoxName("BEGP", k));
         }
     }
     return std::nullopt;
@@ -155,24 +164,29 @@ bool NoLoadsFrom(const LoadNumbers& loads, SpanSlots first)
 Finding CheckAnyLoad(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
     const bool noUniform = beam.Loads.UNIF == 0 && beam.Loads.LUNIF == 0;
-    const bool missing = beam.IsContinuous() ? beam.Loads.UNIF == 0 : noUniform && NoLoadsFrom(beam.Loads, {0, 0});
-    return missing ? Finding(Refusal("At least one load must be specified for Kordavan to calculate a beam size.", "Span"))
-                   : std::nullopt;
+    const bool missing =
+        beam.IsContinuous() ? beam.Loads.UNIF == 0 : noUniform && NoLoadsFrom(beam.Loads, {0, 0});
+    return missing
+               ? Finding(Refusal("At least one load must be specified for Kordavan to calculate a beam size.",
+                                 "Span"))
+               : std::nullopt;
 }
 
 Finding CheckAnyOverhangLoad(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
     const bool missing = beam.IsOverhanging() && NoLoadsFrom(beam.Loads, SlotsOnSpan(beam.Support));
-    return missing ? Finding(Refusal("At least one OVERHANGING load must be specified for Kordavan to calculate an "
-                                     "overhanging beam.",
-                                     "DIS[4]"))
+    return missing ? Finding(Refusal(
+                         "At least one OVERHANGING load must be specified for Kordavan to calculate an "
+                         "overhanging beam.",
+                         "DIS[4]"))
                    : std::nullopt;
 }
 
 constexpr std::array<Check, 11> Checks{
-    CheckSpan,         CheckUnbracedLength, CheckDuration,          CheckPitch,
-    CheckPointLoads,   CheckOverhangPointLoads, CheckPartialLoads,  CheckPartialEnds,
-    CheckPartialBeginnings, CheckAnyLoad,   CheckAnyOverhangLoad,
+    CheckSpan,         CheckUnbracedLength,  CheckDuration,
+    CheckPitch,        CheckPointLoads,      CheckOverhangPointLoads,
+    CheckPartialLoads, CheckPartialEnds,     CheckPartialBeginnings,
+    CheckAnyLoad,      CheckAnyOverhangLoad,
 };
 
 }  // namespace
@@ -192,14 +206,16 @@ Finding CheckDeflectionLimits(const BeamNumbers& beam)
     if (!(beam.MaxDefl > 0)) {
         return Refusal(
             "Please enter a Maximum Allowable TOTAL Load (DL + LL) Deflection value.\n"
-            "See help or click the deflection 'On Line Help' button, (the small gray square next to 'Max Allowable "
+            "See help or click the deflection 'On Line Help' button, (the small gray square next to 'Max "
+            "Allowable "
             "Deflection'), if you need acceptable values.",
             "MaxDefl");
     }
     if (!(beam.LMaxDefl > 0) && HasLiveLoad(beam.Loads)) {
         return Refusal(
             "Please enter a Maximum Allowable LIVE Load Deflection value.\n"
-            "See help or click the 'On Line Help' button, (the small gray square next to 'Max Allowable Deflection'), if "
+            "See help or click the 'On Line Help' button, (the small gray square next to 'Max Allowable "
+            "Deflection'), if "
             "you need acceptable values.",
             "LMaxDefl");
     }

@@ -49,7 +49,8 @@ Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user
     };
     const auto* const missing =
         std::find_if(checks.begin(), checks.end(), [](const OwnValue& check) { return !(check.Value > 0); });
-    return missing == checks.end() ? Outcome::Done : Refuse(user, Refusal(missing->MissingText, missing->Box));
+    return missing == checks.end() ? Outcome::Done
+                                   : Refuse(user, Refusal(missing->MissingText, missing->Box));
 }
 
 }  // namespace kordavan

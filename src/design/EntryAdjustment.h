@@ -12,12 +12,13 @@ std::string LoadText(double value);
 /// A total whose dead part, total less live, grows with the slope.
 double WithSlope(double total, double live, double slopeFactor);
 
-/// Puts loads as the analysis takes them into the load entries: dead parts grown with the slope (not those of a
-/// hip or valley, whose tool has done it), then all loads times the spacing. What is needed to undo it is kept.
+/// Puts loads as the analysis takes them into the load entries: dead parts grown with the slope (not those of
+/// a hip or valley, whose tool has done it), then all loads times the spacing. What is needed to undo it is
+/// kept.
 void AdjustEntries(BeamProblem& problem, float slopeFactor, EntriesToRestore& restore);
 
-/// Puts the entries back when the criteria come to the front again. Loads multiplied for a spacing are divided,
-/// to whole pounds for 16 and 19.2 in.; totals grown by the slope return to what was typed.
+/// Puts the entries back when the criteria come to the front again. Loads multiplied for a spacing are
+/// divided, to whole pounds for 16 and 19.2 in.; totals grown by the slope return to what was typed.
 void RestoreEntries(Session& session);
 
 }  // namespace kordavan

@@ -16,15 +16,16 @@ namespace {
 constexpr std::string_view NumbersTooLarge = "The numbers entered are too large to be multiplied.";
 
 constexpr std::string_view SpanReplaced =
-    "The Span Auto-calc feature is currently selected. Kordavan is replacing your previous Span entry with our "
+    "The Span Auto-calc feature is currently selected. Kordavan is replacing your previous Span entry with "
+    "our "
     "calculated Span...";
 constexpr std::string_view NoAreaSelected =
-    " Please select at least one 'area' on roof plan diagram to be include in the area calculation. The white "
+    " Please select at least one 'area' on roof plan diagram to be include in the area calculation. The "
+    "white "
     "squares are checkboxes and at least one must be 'checked'.";
 
 /// Total of the triangular load times this, over the span, is the uniform load of equal moment.
 constexpr double EquivalentUniformFactor = 1.0264;
-
 
 Outcome CheckHipEntries(const BeamProblem& problem, UserPort& user)
 {
@@ -33,12 +34,15 @@ Outcome CheckHipEntries(const BeamProblem& problem, UserPort& user)
         return Refuse(user, Refusal("Please enter a total (Live + Dead) load in PSF.", "IncTL"));
     }
     if (problem.Roofbutton && Val(loads.IncLL) == 0) {
-        return Refuse(user, Refusal("The Roof Slope Adjustment is checked. Please enter the Live Load in PSF so Kordavan "
-                                    "can complete the calculation.",
-                                    "IncLL"));
+        return Refuse(
+            user,
+            Refusal("The Roof Slope Adjustment is checked. Please enter the Live Load in PSF so Kordavan "
+                    "can complete the calculation.",
+                    "IncLL"));
     }
     if (Val(loads.Trib1) <= 0 || Val(loads.Trib2) <= 0) {
-        return Refuse(user, Refusal("Please enter distances (lengths) for the tributary area calculation.", "Trib1"));
+        return Refuse(
+            user, Refusal("Please enter distances (lengths) for the tributary area calculation.", "Trib1"));
     }
     return Outcome::Done;
 }
@@ -61,7 +65,8 @@ Outcome SettleHipSpan(BeamProblem& problem, UserPort& user)
 
 std::string GrownLoad(const std::string& total, const std::string& live, double slopeFactor)
 {
-    return Val(total) == 0 ? std::string{} : FormatNumber(WithSlope(Val(total), Val(live), slopeFactor), "##.0#");
+    return Val(total) == 0 ? std::string{}
+                           : FormatNumber(WithSlope(Val(total), Val(live), slopeFactor), "##.0#");
 }
 
 /// What the tool will write, worked out before anything is.
@@ -85,7 +90,8 @@ HipValleyLoads EquivalentHipLoads(const Session& session)
         hip.IncUnifTL = GrownLoad(loads.IncUnifTL, loads.IncUnifLL, slope);
     }
     const auto quarters = std::count(loads.Areas.begin(), loads.Areas.end(), true);
-    const double area = Val(loads.Trib1) * Val(loads.Trib2) * static_cast<double>(quarters) / PlanQuarterCount;
+    const double area =
+        Val(loads.Trib1) * Val(loads.Trib2) * static_cast<double>(quarters) / PlanQuarterCount;
     const double live = Val(loads.IncLL);
     const double toUniform = EquivalentUniformFactor / Val(problem.Span);
     hip.TotalLoad = Val(hip.IncTL) * area;
@@ -124,9 +130,11 @@ Outcome MultiplyTributary(BeamProblem& problem, UserPort& user)
         return Refuse(user, Refusal(" Please enter a total load (LL+DL) in PSF.", "Text2"));
     }
     if (total < live) {
-        return Refuse(user, Refusal("Your Live Load entry is greater than your total load (LL+DL) entry.  Please adjust "
-                                    "as necessary.",
-                                    "Text2"));
+        return Refuse(
+            user,
+            Refusal("Your Live Load entry is greater than your total load (LL+DL) entry.  Please adjust "
+                    "as necessary.",
+                    "Text2"));
     }
     if (!std::isfinite(total * length)) {
         return Refuse(user, Refusal(NumbersTooLarge, "Tribute"));

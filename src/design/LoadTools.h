@@ -8,16 +8,16 @@ namespace kordavan {
 /// Uniform load calculator: psf times tributary length into LUNIF and UNIF.
 Outcome MultiplyTributary(BeamProblem& problem, UserPort& user);
 
-/// Partial load calculator: psf times tributary length into PAR and LPAR, row by row. Rows without a tributary
-/// length, and values that are not above 0, leave their boxes as they are. A product beyond any number is refused
-/// with nothing changed.
+/// Partial load calculator: psf times tributary length into PAR and LPAR, row by row. Rows without a
+/// tributary length, and values that are not above 0, leave their boxes as they are. A product beyond any
+/// number is refused with nothing changed.
 Outcome InsertPartialLoads(BeamProblem& problem, UserPort& user);
 
 /// Empties every box of the partial load calculator.
 void ClearPartialCalculator(BeamProblem& problem);
 
-/// Hips and valleys: the triangular load of the plan quarters as an equivalent uniform load in UNIF and LUNIF,
-/// which stands for its moment, shear and deflection; the reactions keep the triangular law.
+/// Hips and valleys: the triangular load of the plan quarters as an equivalent uniform load in UNIF and
+/// LUNIF, which stands for its moment, shear and deflection; the reactions keep the triangular law.
 ///
 /// With slope adjustment the dead part of the roof loads grows, and is to be put back before another run.
 /// A refusal leaves everything as it was, save a span already written by Span Auto-Calc.

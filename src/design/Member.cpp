@@ -12,19 +12,25 @@ namespace kordavan {
 namespace {
 
 constexpr std::string_view BadBreadth =
-    "Please enter a valid numeric BREADTH in the same format as shown on the 'quick pick' button headings below.  "
-    "Include spaces, if any, and a hyphen before fractions (example: 3-1/2x) and an 'x' immediately following the "
+    "Please enter a valid numeric BREADTH in the same format as shown on the 'quick pick' button headings "
+    "below.  "
+    "Include spaces, if any, and a hyphen before fractions (example: 3-1/2x) and an 'x' immediately "
+    "following the "
     "breadth.\n"
-    "NOTE: Custom Timber nominal breadths and depths may be entered in half inch increments using the CUSTOM VALUES "
+    "NOTE: Custom Timber nominal breadths and depths may be entered in half inch increments using the CUSTOM "
+    "VALUES "
     "form.";
 
 constexpr std::string_view BadSpecies =
-    "Please enter a Species and Grade in exactly the same format as shown on the 'quick pick' button side-headings "
+    "Please enter a Species and Grade in exactly the same format as shown on the 'quick pick' button "
+    "side-headings "
     "below.  Include any spaces between words and numbers.";
 
 constexpr std::string_view BadDepth =
-    "Please enter a valid numeric DEPTH in the same format as shown on the 'quick pick' buttons.  Your entry must "
-    "also be a beam size in the Kordavan database.  Please enter NOMINAL lumber sizes for solid sawn lumber and "
+    "Please enter a valid numeric DEPTH in the same format as shown on the 'quick pick' buttons.  Your entry "
+    "must "
+    "also be a beam size in the Kordavan database.  Please enter NOMINAL lumber sizes for solid sawn lumber "
+    "and "
     "timbers.\n"
     "2xs and 3xs:  4 to 14 in. (2 in. increments)\n"
     "4xs:  4 to 16 in. (2 in. increments)\n"
@@ -94,7 +100,8 @@ Outcome IdentifySize(const MemberEntry& entry, SpeciesGroup group, UserPort& use
     if (!breadth) {
         return Refuse(user, Refusal(BadBreadth, boxes.Breadth));
     }
-    const bool listed = group == SpeciesGroup::Custom || FindSpecies(breadth->Key, entry.SpeciesText) != nullptr;
+    const bool listed =
+        group == SpeciesGroup::Custom || FindSpecies(breadth->Key, entry.SpeciesText) != nullptr;
     if (!listed) {
         return Refuse(user, Refusal(BadSpecies, boxes.Species));
     }
@@ -113,7 +120,8 @@ Outcome IdentifySize(const MemberEntry& entry, SpeciesGroup group, UserPort& use
 
 }  // namespace
 
-Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& user, MemberCandidate& candidate)
+Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& user,
+                       MemberCandidate& candidate)
 {
     candidate = MemberCandidate{};
     candidate.BreadthText = entry.BreadthText;

@@ -53,6 +53,7 @@ struct MemberCandidate {
 
 /// Looks up the texts of a member: its breadth, then its species, then its depth. A text that is not written
 /// exactly as the catalogue has it is refused with the formats that are.
-Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& user, MemberCandidate& candidate);
+Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& user,
+                       MemberCandidate& candidate);
 
 }  // namespace kordavan

@@ -16,7 +16,8 @@ namespace {
 
 constexpr std::string_view RepetitiveNote =
     "Please note:\n"
-    "GLB and 6x sizes do not qualify for Repetitive Use Values.  Please either 'unselect' the Repetitive Use check "
+    "GLB and 6x sizes do not qualify for Repetitive Use Values.  Please either 'unselect' the Repetitive Use "
+    "check "
     "box on the Criteria Form or select a 4x or 2x combination beam breadth.";
 constexpr std::string_view DatabaseError = "Database search error in calc module";
 constexpr std::string_view ZeroValueError = "Calc module, zero value error!";
@@ -73,12 +74,13 @@ SectionProps SectionOf(const TestCase& test, NetSize size)
     const WeightBasis weight{.NoWeight = test.Beam.NoWeight,
                              .DensityFactor = test.Beam.DensityFactor,
                              .SlopeFactor = test.Beam.SlopeFactor};
-    return test.Member.Round ? RoundProps(size.D, weight) : RectangleProps({.B = size.B, .D = size.D}, weight);
+    return test.Member.Round ? RoundProps(size.D, weight)
+                             : RectangleProps({.B = size.B, .D = size.D}, weight);
 }
 
 /// Adjusts the values of one size. Refuses a factor or value of zero.
-Outcome AdjustSize(const TestCase& test, NetSize size, std::string_view depthText, StabilityRun run, UserPort& user,
-                   SizeTest& result)
+Outcome AdjustSize(const TestCase& test, NetSize size, std::string_view depthText, StabilityRun run,
+                   UserPort& user, SizeTest& result)
 {
     result.Values = ValuesOf(test, size);
     result.Factors = ComputeFactors(test.Beam, {.Member = test.Member,
@@ -111,8 +113,8 @@ Outcome LoadSize(const TestCase& test, NetSize size, UserPort& user, SizeTest& r
     result.Section = SectionOf(test, size);
     result.Loads = ComputeCandidateLoads(test.Beam, result.Section, test.Applied);
     result.Shear = ComputeShear(test.Beam, result.Section,
-                                {.FbPrime = result.Adjusted.FbAdj, .FvPrime = result.Adjusted.FvAdj}, test.Applied,
-                                result.Loads);
+                                {.FbPrime = result.Adjusted.FbAdj, .FvPrime = result.Adjusted.FvAdj},
+                                test.Applied, result.Loads);
     if (result.Shear.Fault == ShearFault::NoMaximum) {
         return Refuse(user, Refusal(MaximumShearError));
     }
@@ -122,7 +124,8 @@ Outcome LoadSize(const TestCase& test, NetSize size, UserPort& user, SizeTest& r
     return Outcome::Done;
 }
 
-Outcome CompareDeflection(const TestCase& test, const SizeTest& size, UserPort& user, DeflectionResult& deflection)
+Outcome CompareDeflection(const TestCase& test, const SizeTest& size, UserPort& user,
+                          DeflectionResult& deflection)
 {
     deflection = ComputeDeflection(test.Beam, size.Section, size.Adjusted.EAdj, test.Applied, size.Loads);
     if (IsFinite(deflection)) {
@@ -136,15 +139,18 @@ Outcome CompareDeflection(const TestCase& test, const SizeTest& size, UserPort& 
 bool IsFiniteTest(const SizeTest& size)
 {
     const bool shearIsFinite = std::isfinite(size.Shear.SectionRequired) &&
-                               std::isfinite(size.Shear.ShearStressActual) && std::isfinite(size.Shear.AreaRequired);
+                               std::isfinite(size.Shear.ShearStressActual) &&
+                               std::isfinite(size.Shear.AreaRequired);
     const bool stabilityIsFinite =
         std::isfinite(size.Stability.Span.FbE) && std::isfinite(size.Stability.Overhang.FbE);
-    return shearIsFinite && stabilityIsFinite && std::isfinite(size.Section.I) && std::isfinite(size.Loads.TotalLoadWithSelf);
+    return shearIsFinite && stabilityIsFinite && std::isfinite(size.Section.I) &&
+           std::isfinite(size.Loads.TotalLoadWithSelf);
 }
 
-/// True when the next smaller depth passes every check; its deflections are the candidate's, grown by the loss
-/// of stiffness. Sets the smaller size's own size or volume factor beside the candidate's.
-bool TestNextSmaller(const TestCase& test, const DeflectionResult& deflection, UserPort& user, SizeTest& candidate)
+/// True when the next smaller depth passes every check; its deflections are the candidate's, grown by the
+/// loss of stiffness. Sets the smaller size's own size or volume factor beside the candidate's.
+bool TestNextSmaller(const TestCase& test, const DeflectionResult& deflection, UserPort& user,
+                     SizeTest& candidate)
 {
     const MemberCandidate& member = test.Member;
     if (member.NextSmallerDepth <= 0) {
@@ -152,8 +158,8 @@ bool TestNextSmaller(const TestCase& test, const DeflectionResult& deflection, U
     }
     const NetSize smallerSize{.B = member.B, .D = member.NextSmallerDepth};
     SizeTest smaller;
-    if (AdjustSize(test, smallerSize, member.NextSmallerDepthText, StabilityRun::NextSmaller, user, smaller) !=
-            Outcome::Done ||
+    if (AdjustSize(test, smallerSize, member.NextSmallerDepthText, StabilityRun::NextSmaller, user,
+                   smaller) != Outcome::Done ||
         LoadSize(test, smallerSize, user, smaller) != Outcome::Done) {
         return false;
     }
@@ -212,7 +218,8 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     const NetSize size{.B = member.B, .D = member.D};
     SizeTest candidate;
     if (AdjustSize(test, size, member.DepthText, StabilityRun::Candidate, user, candidate) != Outcome::Done ||
-        CheckOwnValues(test.Own, user) != Outcome::Done || LoadSize(test, size, user, candidate) != Outcome::Done) {
+        CheckOwnValues(test.Own, user) != Outcome::Done ||
+        LoadSize(test, size, user, candidate) != Outcome::Done) {
         return Outcome::Refused;
     }
     DeflectionResult deflection;

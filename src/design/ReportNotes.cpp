@@ -65,9 +65,10 @@ constexpr std::array ImpossibleSmallerSizes{
 
 bool IsPossibleSmaller(const MemberCandidate& member)
 {
-    return std::none_of(ImpossibleSmallerSizes.begin(), ImpossibleSmallerSizes.end(), [&](const ImpossibleSmaller& row) {
-        return row.Breadth == member.BreadthText && Val(member.NextSmallerDepthText) <= row.MostDepth;
-    });
+    return std::none_of(
+        ImpossibleSmallerSizes.begin(), ImpossibleSmallerSizes.end(), [&](const ImpossibleSmaller& row) {
+            return row.Breadth == member.BreadthText && Val(member.NextSmallerDepthText) <= row.MostDepth;
+        });
 }
 
 std::string RatioText(float ratio)
@@ -140,11 +141,12 @@ std::string ModifiersText(const ReportSource& source)
 
 std::string NoSplitText(const MemberTestResult& result)
 {
-    return result.NoSplits ? "Note:  This beam fails in shear unless specified to have NO SPLITS.  If this option is "
-                             "acceptable to you, Kordavan will automatically adjust the Shear Stress factor, Ch, from "
-                             "1.0 to 2.0 and the Data Record will show this beam as acceptable with NO SPLITS. "
-                             "Otherwise, you will need to select a different beam."
-                           : std::string{};
+    return result.NoSplits
+               ? "Note:  This beam fails in shear unless specified to have NO SPLITS.  If this option is "
+                 "acceptable to you, Kordavan will automatically adjust the Shear Stress factor, Ch, from "
+                 "1.0 to 2.0 and the Data Record will show this beam as acceptable with NO SPLITS. "
+                 "Otherwise, you will need to select a different beam."
+               : std::string{};
 }
 
 std::string SmallChoiceText(const ReportSource& source)
@@ -178,20 +180,22 @@ std::string LargeDeflectionText(const MemberTestResult& result)
     const bool isLarge = std::any_of(deflections.begin(), deflections.end(),
                                      [](float deflection) { return std::abs(deflection) > alertAbove; });
     const bool anyFailed = result.Overall == StatusFail;
-    return isLarge && !anyFailed ? "A Courtesy Alert:  Deflection is greater than 1/3 inch.  It's your judgement call if "
-                                   "this is acceptable..."
-                                 : std::string{};
+    return isLarge && !anyFailed
+               ? "A Courtesy Alert:  Deflection is greater than 1/3 inch.  It's your judgement call if "
+                 "this is acceptable..."
+               : std::string{};
 }
 
 std::string UnbalancedText(const BeamNumbers& beam)
 {
-    return beam.IsOverhanging() ? "Overhanging members should be checked for unbalanced live loads." : std::string{};
+    return beam.IsOverhanging() ? "Overhanging members should be checked for unbalanced live loads."
+                                : std::string{};
 }
 
 std::string TotalDeflectionLine(const ReportSource& source)
 {
-    return "Total Load Deflection    Max: L / " + source.Problem.MaxDefl +
-           "   Actual: L / " + RatioText(source.Analysis.TotalDeflRatio);
+    return "Total Load Deflection    Max: L / " + source.Problem.MaxDefl + "   Actual: L / " +
+           RatioText(source.Analysis.TotalDeflRatio);
 }
 
 std::string LiveDeflectionLine(const ReportSource& source)
@@ -199,8 +203,8 @@ std::string LiveDeflectionLine(const ReportSource& source)
     if (source.Analysis.LiveDeflIn == 0) {
         return {};
     }
-    return "Live Load Deflection     Max: L / " + source.Problem.LMaxDefl +
-           "   Actual: L / " + RatioText(source.Analysis.LiveDeflRatio);
+    return "Live Load Deflection     Max: L / " + source.Problem.LMaxDefl + "   Actual: L / " +
+           RatioText(source.Analysis.LiveDeflRatio);
 }
 
 std::string ReactionsLine(const AnalysisResult& analysis)

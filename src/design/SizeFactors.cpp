@@ -18,13 +18,15 @@ constexpr std::array<std::string_view, 7> NominalDepths{"4", "6", "8", "10", "12
 using FactorRow = std::array<float, NominalDepths.size()>;
 
 // NDS Supplement tables 4A (No. 2 and better) and 4D, adjustment factors.
-//                              4     6     8     10    12    14      16
-constexpr FactorRow Rows2x{    1.5F, 1.3F, 1.2F, 1.1F, 1.0F, 0.9F,   0.0F};
-constexpr FactorRow Rows4x{    1.5F, 1.3F, 1.3F, 1.2F, 1.1F, 1.0F,   1.0F};
+// clang-format off
+//                               4     6     8     10    12    14      16
+constexpr FactorRow Rows2x    {1.5F, 1.3F, 1.2F, 1.1F, 1.0F, 0.9F,   0.0F};
+constexpr FactorRow Rows4x    {1.5F, 1.3F, 1.3F, 1.2F, 1.1F, 1.0F,   1.0F};
 constexpr FactorRow RowsTimber{0.0F, 1.0F, 1.0F, 1.0F, 1.0F, 0.983F, 0.968F};
+// clang-format on
 
-/// Southern Pine: table 4B prints values by size, here told as factors on the value of 12 in. Lowered are those
-/// of the 2012 and later supplements.
+/// Southern Pine: table 4B prints values by size, here told as factors on the value of 12 in. Lowered are
+/// those of the 2012 and later supplements.
 struct SouthernPineRow {
     std::string_view Species;
     bool Lowered;
@@ -33,25 +35,32 @@ struct SouthernPineRow {
 };
 
 constexpr std::array SouthernPineRows{
-    SouthernPineRow{"Mixed So. Pine #1", false,
+    SouthernPineRow{"Mixed So. Pine #1",
+                    false,
                     {1.487179F, 1.33333F, 1.23076F, 1.07692F, 1.0F, 0.9F, 0.0F},
                     {1.487179F, 1.33333F, 1.353836F, 1.184612F, 1.1F, 0.9F, 0.9F}},
-    SouthernPineRow{"Mixed So. Pine #2", false,
+    SouthernPineRow{"Mixed So. Pine #2",
+                    false,
                     {1.48571F, 1.31428F, 1.2F, 1.05714F, 1.0F, 0.9F, 0.0F},
                     {1.48571F, 1.31428F, 1.32F, 1.162854F, 1.1F, 0.9F, 0.9F}},
-    SouthernPineRow{"Mixed So. Pine #2", true,
+    SouthernPineRow{"Mixed So. Pine #2",
+                    true,
                     {1.257F, 1.1428F, 1.057F, 0.91428F, 0.85714F, 0.85714F, 0.0F},
                     {1.257F, 1.1428F, 1.1627F, 1.0057F, 0.94285F, 0.94285F, 0.94285F}},
-    SouthernPineRow{"So. Pine #1", false,
+    SouthernPineRow{"So. Pine #1",
+                    false,
                     {1.48F, 1.32F, 1.2F, 1.04F, 1.0F, 0.9F, 0.0F},
                     {1.48F, 1.32F, 1.32F, 1.144F, 1.1F, 0.9F, 0.9F}},
-    SouthernPineRow{"So. Pine #1", true,
+    SouthernPineRow{"So. Pine #1",
+                    true,
                     {1.2F, 1.08F, 1.0F, 0.84F, 0.8F, 0.8F, 0.0F},
                     {1.2F, 1.08F, 1.1F, 0.924F, 0.88F, 0.88F, 0.88F}},
-    SouthernPineRow{"So. Pine #2", false,
+    SouthernPineRow{"So. Pine #2",
+                    false,
                     {1.53846F, 1.282F, 1.230769F, 1.07692F, 1.0F, 0.9F, 0.0F},
                     {1.53846F, 1.282F, 1.353846F, 1.184612F, 1.1F, 0.9F, 0.9F}},
-    SouthernPineRow{"So. Pine #2", true,
+    SouthernPineRow{"So. Pine #2",
+                    true,
                     {1.1282F, 1.0256F, 0.9487F, 0.8205F, 0.7692F, 0.7692F, 0.0F},
                     {1.1282F, 1.0256F, 1.04357F, 0.9025F, 0.84612F, 0.84612F, 0.84612F}},
 };

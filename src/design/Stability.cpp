@@ -110,8 +110,8 @@ bool IsPointOverhang(const LoadNumbers& loads)
     return both ? loads.DIS[4] == loads.DIS[5] : loads.PT[4] != 0 || loads.PT[5] != 0;
 }
 
-/// Coefficient of E'/Rb^2. Source: NDS 1997 and 2001, 3.3.3.8 (KbE); from NDS 2005 on 1.2 E'min, E'min being E
-/// reduced by its spread.
+/// Coefficient of E'/Rb^2. Source: NDS 1997 and 2001, 3.3.3.8 (KbE); from NDS 2005 on 1.2 E'min, E'min being
+/// E reduced by its spread.
 double BucklingCoefficient(Edition edition, BucklingClass material)
 {
     if (IsPre2005(edition)) {
@@ -227,8 +227,8 @@ private:
         return point ? OverhangPoint : AnyOtherLoad;
     }
 
-    /// Machine graded lumber takes the span's ratio from NDS 2005 on; where the span is braced and has none, its
-    /// own.
+    /// Machine graded lumber takes the span's ratio from NDS 2005 on; where the span is braced and has none,
+    /// its own.
     double OverhangBucklingRb() const
     {
         const bool takesSpan = input.Class == BucklingClass::MachineGraded && !IsPre2005(beam.Nds);

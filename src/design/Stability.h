@@ -40,8 +40,8 @@ struct StabilityInput {
 
 /// Beam stability factor of span and overhang, NDS 3.3.3.
 ///
-/// Exempt, with both factors 1 and all else 0: a beam without unbraced lengths, of equal breadth and depth, or
-/// continuous over several spans. What cannot be worked out is told and leaves a factor of 1.
+/// Exempt, with both factors 1 and all else 0: a beam without unbraced lengths, of equal breadth and depth,
+/// or continuous over several spans. What cannot be worked out is told and leaves a factor of 1.
 StabilityResult ComputeStability(const BeamNumbers& beam, const StabilityInput& input, UserPort& user);
 
 }  // namespace kordavan

@@ -61,12 +61,15 @@ void FillStrength(const MemberTestResult& result, TestReport& report)
 
 void FillDeflections(const MemberTestResult& result, TestReport& report)
 {
-    FillDeflection({result.TotalDeflectionAllowed, result.TotalDeflection, result.DeflStatus, DeflectionFormat},
-                   {report.DeflReq, report.DeflProp, report.DeflStatus, report.DeflPercent});
-    FillDeflection({result.LiveDeflectionAllowed, result.LiveDeflection, result.LDeflStatus, DeflectionFormat},
-                   {report.LDeflReq, report.LDeflProp, report.LDeflStatus, report.LDeflPercent});
-    FillDeflection({result.OverhangDeflectionAllowed, result.OverhangDeflection, result.OHDeflStatus, OverhangFormat},
-                   {report.OHDeflReq, report.OHDeflProp, report.OHDeflStatus, report.OHDeflPercent});
+    FillDeflection(
+        {result.TotalDeflectionAllowed, result.TotalDeflection, result.DeflStatus, DeflectionFormat},
+        {report.DeflReq, report.DeflProp, report.DeflStatus, report.DeflPercent});
+    FillDeflection(
+        {result.LiveDeflectionAllowed, result.LiveDeflection, result.LDeflStatus, DeflectionFormat},
+        {report.LDeflReq, report.LDeflProp, report.LDeflStatus, report.LDeflPercent});
+    FillDeflection(
+        {result.OverhangDeflectionAllowed, result.OverhangDeflection, result.OHDeflStatus, OverhangFormat},
+        {report.OHDeflReq, report.OHDeflProp, report.OHDeflStatus, report.OHDeflPercent});
     FillDeflection({result.OverhangLiveDeflectionAllowed, result.OverhangLiveDeflection, result.OHLDeflStatus,
                     OverhangFormat},
                    {report.OHLDeflReq, report.OHLDeflProp, report.OHLDeflStatus, report.OHLDeflPercent});
@@ -74,8 +77,12 @@ void FillDeflections(const MemberTestResult& result, TestReport& report)
 
 std::string GradeText(Edition edition)
 {
-    const std::string_view year = EditionYear(edition);
-    return year.empty() ? std::string{} : "NDS " + std::string(year) + " Values";
+    if (edition == Edition::None) {
+        return {};
+    }
+    std::string text = "NDS ";
+    text += EditionYear(edition);
+    return text + " Values";
 }
 
 std::string ActualSizeText(const MemberCandidate& member)
@@ -101,7 +108,8 @@ TestReport MakeTestReport(const Session& session)
 {
     const BeamNumbers& beam = session.Numbers;
     const MemberTest& member = session.Member;
-    const ReportSource source{.Problem = session.Problem, .Beam = beam, .Analysis = session.Analysis, .Member = member};
+    const ReportSource source{
+        .Problem = session.Problem, .Beam = beam, .Analysis = session.Analysis, .Member = member};
     TestReport report;
     report.DisplayChoice = DisplayChoiceText(member.Candidate);
     report.GradeLabel = GradeText(beam.Nds);

@@ -8,7 +8,8 @@
 
 namespace kordavan {
 
-/// Every text of the test report screen, by the names of its labels and panels. Rows that do not apply are empty.
+/// Every text of the test report screen, by the names of its labels and panels. Rows that do not apply are
+/// empty.
 struct TestReport {
     std::string DisplayChoice;
     std::string GradeLabel;
@@ -42,9 +43,9 @@ struct TestReport {
     std::string DeadDefl;
     std::string DeflTooHigh;
     std::string Unbalancedlabel;
-    std::string Label5;   // actual size
-    std::string Label6;   // live load deflection
-    std::string Label7;   // row captions: section, shear, total, live, overhang total, overhang live
+    std::string Label5;  // actual size
+    std::string Label6;  // live load deflection
+    std::string Label7;  // row captions: section, shear, total, live, overhang total, overhang live
     std::string Label8;
     std::string Label9;
     std::string Label10;  // reactions

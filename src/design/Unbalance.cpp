@@ -104,8 +104,9 @@ struct UnbalanceTexts {
 constexpr UnbalanceTexts OverhangTexts{
     .DoneTitle = "Kordavan Unbalanced Overhang",
     .NothingToRemove = "There are no live loads to remove from the Overhang.",
-    .Removed = "Live loads have been removed from Overhang.\n"
-               "Click 'OK Calculate' to test member with these loads removed. Watch deflection at Backspan.",
+    .Removed =
+        "Live loads have been removed from Overhang.\n"
+        "Click 'OK Calculate' to test member with these loads removed. Watch deflection at Backspan.",
     .Restored = "Live Loads on the Overhang have been restored.",
     .Fault = "Error unbalancing loads on overhang.",
 };
@@ -113,8 +114,9 @@ constexpr UnbalanceTexts OverhangTexts{
 constexpr UnbalanceTexts BackspanTexts{
     .DoneTitle = "Kordavan Unbalanced Backspan",
     .NothingToRemove = "There are no live loads to remove from the backspan.",
-    .Removed = "Live loads have been removed from Backspan. \n"
-               "Click 'OK Calculate' to test member with these loads removed. Watch for uplift at R1.",
+    .Removed =
+        "Live loads have been removed from Backspan. \n"
+        "Click 'OK Calculate' to test member with these loads removed. Watch for uplift at R1.",
     .Restored = "Live Loads on the backspan have been restored.",
     .Fault = "Error unbalancing loads on span.",
 };
@@ -154,9 +156,11 @@ Outcome Restore(Session& session, const PartOfBeam& part, const UnbalanceTexts& 
 }
 
 /// Toggles one part of the beam, whose state is `isOut`.
-Outcome Toggle(Session& session, const PartOfBeam& part, const UnbalanceTexts& texts, bool& isOut, UserPort& user)
+Outcome Toggle(Session& session, const PartOfBeam& part, const UnbalanceTexts& texts, bool& isOut,
+               UserPort& user)
 {
-    const Outcome outcome = isOut ? Restore(session, part, texts, user) : Unbalance(session, part, texts, user);
+    const Outcome outcome =
+        isOut ? Restore(session, part, texts, user) : Unbalance(session, part, texts, user);
     if (outcome == Outcome::Done) {
         isOut = !isOut;
     }

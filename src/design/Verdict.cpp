@@ -32,7 +32,8 @@ void JudgeDeflections(const BeamNumbers& beam, MemberTestResult& result)
     }
     result.OHDeflStatus = StatusOf(IsWithin(result.OverhangDeflection, result.OverhangDeflectionAllowed));
     if (hasLive) {
-        const bool nothingToCheck = result.OverhangLiveDeflectionAllowed == 0 || result.OverhangLiveDeflection == 0;
+        const bool nothingToCheck =
+            result.OverhangLiveDeflectionAllowed == 0 || result.OverhangLiveDeflection == 0;
         result.OHLDeflStatus = StatusOf(
             nothingToCheck || IsWithin(result.OverhangLiveDeflection, result.OverhangLiveDeflectionAllowed));
     }

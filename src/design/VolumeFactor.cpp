@@ -41,8 +41,8 @@ struct PointsAlone {
 PointsAlone FindPointsAlone(const LoadNumbers& loads)
 {
     PointsAlone found;
-    const bool onlyPoints =
-        loads.UNIF == 0 && std::all_of(loads.PAR.begin(), loads.PAR.end(), [](double load) { return load == 0; });
+    const bool onlyPoints = loads.UNIF == 0 && std::all_of(loads.PAR.begin(), loads.PAR.end(),
+                                                           [](double load) { return load == 0; });
     if (!onlyPoints) {
         return found;
     }

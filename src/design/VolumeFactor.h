@@ -5,8 +5,8 @@
 
 namespace kordavan {
 
-/// Loading condition constant KL of the volume factor. It counts under NDS 1997 alone, on one simple span that
-/// carries nothing but a point load near midspan (1.09) or two equal ones near the third points (0.96).
+/// Loading condition constant KL of the volume factor. It counts under NDS 1997 alone, on one simple span
+/// that carries nothing but a point load near midspan (1.09) or two equal ones near the third points (0.96).
 /// Source: NDS 1997, Table 5.3.2.
 double LoadingConstant(const BeamNumbers& beam);
 

@@ -15,24 +15,15 @@ namespace {
 // Net sizes of dimension lumber and timbers: American Softwood Lumber Standard PS 20, dry and green sizes.
 // Glulam widths and laminations: ANSI/AITC A190.1, western species and Southern Pine.
 constexpr std::array ListedBreadths{
-    Breadth{"2x", 1.5, BreadthKey::TwoBy},
-    Breadth{"(2) 2x", 3.0, BreadthKey::TwoBy},
-    Breadth{"(3) 2x", 4.5, BreadthKey::TwoBy},
-    Breadth{"(4) 2x", 6.0, BreadthKey::TwoBy},
-    Breadth{"3x", 2.5, BreadthKey::TwoBy},
-    Breadth{"4x", 3.5, BreadthKey::FourBy},
-    Breadth{"6x", 5.5, BreadthKey::SixBy},
-    Breadth{"8x", 7.5, BreadthKey::SixBy},
-    Breadth{"10x", 9.5, BreadthKey::SixBy},
-    Breadth{"12x", 11.5, BreadthKey::SixBy},
-    Breadth{"14x", 13.5, BreadthKey::SixBy},
-    Breadth{"3-1/8x", 3.125, BreadthKey::Glulam},
-    Breadth{"5-1/8x", 5.125, BreadthKey::Glulam},
-    Breadth{"6-3/4x", 6.75, BreadthKey::Glulam},
-    Breadth{"8-3/4x", 8.75, BreadthKey::Glulam},
-    Breadth{"10-3/4x", 10.75, BreadthKey::Glulam},
-    Breadth{"8-1/2x", 8.5, BreadthKey::Glulam},
-    Breadth{"10-1/2x", 10.5, BreadthKey::Glulam},
+    Breadth{"2x", 1.5, BreadthKey::TwoBy},        Breadth{"(2) 2x", 3.0, BreadthKey::TwoBy},
+    Breadth{"(3) 2x", 4.5, BreadthKey::TwoBy},    Breadth{"(4) 2x", 6.0, BreadthKey::TwoBy},
+    Breadth{"3x", 2.5, BreadthKey::TwoBy},        Breadth{"4x", 3.5, BreadthKey::FourBy},
+    Breadth{"6x", 5.5, BreadthKey::SixBy},        Breadth{"8x", 7.5, BreadthKey::SixBy},
+    Breadth{"10x", 9.5, BreadthKey::SixBy},       Breadth{"12x", 11.5, BreadthKey::SixBy},
+    Breadth{"14x", 13.5, BreadthKey::SixBy},      Breadth{"3-1/8x", 3.125, BreadthKey::Glulam},
+    Breadth{"5-1/8x", 5.125, BreadthKey::Glulam}, Breadth{"6-3/4x", 6.75, BreadthKey::Glulam},
+    Breadth{"8-3/4x", 8.75, BreadthKey::Glulam},  Breadth{"10-3/4x", 10.75, BreadthKey::Glulam},
+    Breadth{"8-1/2x", 8.5, BreadthKey::Glulam},   Breadth{"10-1/2x", 10.5, BreadthKey::Glulam},
 };
 
 constexpr std::array Custom2xBreadths{
@@ -46,21 +37,21 @@ constexpr std::array Custom4xBreadths{
 };
 
 constexpr std::array CustomTimberBreadths{
-    Breadth{"5x", 4.5, BreadthKey::SixBy},       Breadth{"5-1/2x", 5.0, BreadthKey::SixBy},
-    Breadth{"6x", 5.5, BreadthKey::SixBy},       Breadth{"6-1/2x", 6.0, BreadthKey::SixBy},
-    Breadth{"7x", 6.5, BreadthKey::SixBy},       Breadth{"7-1/2x", 7.0, BreadthKey::SixBy},
-    Breadth{"8x", 7.5, BreadthKey::SixBy},       Breadth{"8-1/2x", 8.0, BreadthKey::SixBy},
-    Breadth{"9x", 8.5, BreadthKey::SixBy},       Breadth{"9-1/2x", 9.0, BreadthKey::SixBy},
-    Breadth{"10x", 9.5, BreadthKey::SixBy},      Breadth{"10-1/2x", 10.0, BreadthKey::SixBy},
-    Breadth{"11x", 10.5, BreadthKey::SixBy},     Breadth{"11-1/2x", 11.0, BreadthKey::SixBy},
-    Breadth{"12x", 11.5, BreadthKey::SixBy},     Breadth{"12-1/2x", 12.0, BreadthKey::SixBy},
-    Breadth{"13x", 12.5, BreadthKey::SixBy},     Breadth{"13-1/2x", 13.0, BreadthKey::SixBy},
+    Breadth{"5x", 4.5, BreadthKey::SixBy},   Breadth{"5-1/2x", 5.0, BreadthKey::SixBy},
+    Breadth{"6x", 5.5, BreadthKey::SixBy},   Breadth{"6-1/2x", 6.0, BreadthKey::SixBy},
+    Breadth{"7x", 6.5, BreadthKey::SixBy},   Breadth{"7-1/2x", 7.0, BreadthKey::SixBy},
+    Breadth{"8x", 7.5, BreadthKey::SixBy},   Breadth{"8-1/2x", 8.0, BreadthKey::SixBy},
+    Breadth{"9x", 8.5, BreadthKey::SixBy},   Breadth{"9-1/2x", 9.0, BreadthKey::SixBy},
+    Breadth{"10x", 9.5, BreadthKey::SixBy},  Breadth{"10-1/2x", 10.0, BreadthKey::SixBy},
+    Breadth{"11x", 10.5, BreadthKey::SixBy}, Breadth{"11-1/2x", 11.0, BreadthKey::SixBy},
+    Breadth{"12x", 11.5, BreadthKey::SixBy}, Breadth{"12-1/2x", 12.0, BreadthKey::SixBy},
+    Breadth{"13x", 12.5, BreadthKey::SixBy}, Breadth{"13-1/2x", 13.0, BreadthKey::SixBy},
     Breadth{"14x", 13.5, BreadthKey::SixBy},
 };
 
 constexpr std::array CustomGlulamBreadths{
-    Breadth{"3-1/8x", 3.125, BreadthKey::Glulam}, Breadth{"5-1/8x", 5.125, BreadthKey::Glulam},
-    Breadth{"6-3/4x", 6.75, BreadthKey::Glulam},  Breadth{"8-3/4x", 8.75, BreadthKey::Glulam},
+    Breadth{"3-1/8x", 3.125, BreadthKey::Glulam},  Breadth{"5-1/8x", 5.125, BreadthKey::Glulam},
+    Breadth{"6-3/4x", 6.75, BreadthKey::Glulam},   Breadth{"8-3/4x", 8.75, BreadthKey::Glulam},
     Breadth{"10-3/4x", 10.75, BreadthKey::Glulam},
 };
 
@@ -127,8 +118,8 @@ constexpr LadderStep NominalStep(int nominal, double net)
     return {InchesText(nominal * SixteenthsPerInch), net};
 }
 
-constexpr std::array DimensionLadder{NominalStep(4, 3.5),    NominalStep(6, 5.5),    NominalStep(8, 7.25),
-                                     NominalStep(10, 9.25),  NominalStep(12, 11.25), NominalStep(14, 13.25),
+constexpr std::array DimensionLadder{NominalStep(4, 3.5),   NominalStep(6, 5.5),    NominalStep(8, 7.25),
+                                     NominalStep(10, 9.25), NominalStep(12, 11.25), NominalStep(14, 13.25),
                                      NominalStep(16, 15.25)};
 constexpr std::size_t DimensionStepsOf2x = 6;  // 16 in. is made as 4x only
 

@@ -31,8 +31,8 @@ struct Breadth {
 };
 
 struct Depth {
-    double Net = 0;                    // in.
-    double NextSmaller = 0;            // net, in.; 0 where there is no smaller size
+    double Net = 0;                      // in.
+    double NextSmaller = 0;              // net, in.; 0 where there is no smaller size
     std::string_view NextSmallerText{};  // empty where there is none
     std::string_view NextLargerText{};
 };

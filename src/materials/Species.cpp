@@ -7,10 +7,11 @@ namespace kordavan {
 namespace {
 
 // NDS Supplement, Design Values for Wood Construction, tables 4A, 4B, 4D and 5A. The 6x rows carry Beams and
-// Stringers values. Odd, and kept: DF North #1 has the 2x and 4x values of #2; Western Woods #2 has E 1.1 as 2x
-// and 1.0 as 4x; Eastern Spruce has Fc-perp 390 as 6x; Mixed So. Pine 6x has a higher Fv1997 than 2x.
+// Stringers values. Odd, and kept: DF North #1 has the 2x and 4x values of #2; Western Woods #2 has E 1.1 as
+// 2x and 1.0 as 4x; Eastern Spruce has Fc-perp 390 as 6x; Mixed So. Pine 6x has a higher Fv1997 than 2x.
+// clang-format off
 constexpr std::array<SpeciesRow, SpeciesRowCount> Rows{
-    //         size class             species and grade           Fb    Fv   Fv97  Fcp   E
+    //         size class             species and grade         Fb    Fv   Fv97  Fcp   E
     SpeciesRow{BreadthKey::TwoBy,    "HF #2",                 850,  150,   75,  405, 1.3F},
     SpeciesRow{BreadthKey::FourBy,   "HF #2",                 850,  150,   75,  405, 1.3F},
     SpeciesRow{BreadthKey::SixBy,    "HF #2",                 675,  140,   70,  405, 1.1F},
@@ -112,6 +113,7 @@ constexpr std::array<SpeciesRow, SpeciesRowCount> Rows{
     SpeciesRow{BreadthKey::FourBy,   "White Oak #1",          875,  220,  110,  800, 1.0F},
     SpeciesRow{BreadthKey::SixBy,    "White Oak #1",         1200,  205,  105,  800, 1.0F},
 };
+// clang-format on
 
 constexpr bool NamesAreUniqueInTheirClass()
 {
@@ -133,18 +135,30 @@ struct PostRow {
 
 // NDS Supplement table 4D, Posts and Timbers. Southern Pine timbers have one value for every shape.
 constexpr std::array PostRows{
-    PostRow{"DF-L #1", 1200},         PostRow{"DF-L #2", 750},
-    PostRow{"HF #1", 975},            PostRow{"HF #2", 575},
-    PostRow{"DF North #1", 1200},     PostRow{"DF North #2", 725},
-    PostRow{"DF South #1", 1150},     PostRow{"DF South #2", 675},
-    PostRow{"SPF #1", 850},           PostRow{"SPF #2", 500},
-    PostRow{"SPF South #1", 800},     PostRow{"SPF South #2", 475},
-    PostRow{"Western Cedar #1", 875}, PostRow{"Western Cedar #2", 550},
-    PostRow{"Western Woods #1", 800}, PostRow{"Western Woods #2", 475},
-    PostRow{"Eastern Hem/Tam #1", 1050}, PostRow{"Eastern Hem/Tam #2", 600},
-    PostRow{"Eastern Spruce #1", 800},   PostRow{"Eastern Spruce #2", 450},
-    PostRow{"Red Oak #1", 1000},         PostRow{"Red Oak #2", 575},
-    PostRow{"White Oak #1", 1050},       PostRow{"White Oak #2", 600},
+    PostRow{"DF-L #1", 1200},
+    PostRow{"DF-L #2", 750},
+    PostRow{"HF #1", 975},
+    PostRow{"HF #2", 575},
+    PostRow{"DF North #1", 1200},
+    PostRow{"DF North #2", 725},
+    PostRow{"DF South #1", 1150},
+    PostRow{"DF South #2", 675},
+    PostRow{"SPF #1", 850},
+    PostRow{"SPF #2", 500},
+    PostRow{"SPF South #1", 800},
+    PostRow{"SPF South #2", 475},
+    PostRow{"Western Cedar #1", 875},
+    PostRow{"Western Cedar #2", 550},
+    PostRow{"Western Woods #1", 800},
+    PostRow{"Western Woods #2", 475},
+    PostRow{"Eastern Hem/Tam #1", 1050},
+    PostRow{"Eastern Hem/Tam #2", 600},
+    PostRow{"Eastern Spruce #1", 800},
+    PostRow{"Eastern Spruce #2", 450},
+    PostRow{"Red Oak #1", 1000},
+    PostRow{"Red Oak #2", 575},
+    PostRow{"White Oak #1", 1050},
+    PostRow{"White Oak #2", 600},
 };
 
 constexpr double DeepGlulamIn = 15;

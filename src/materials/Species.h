@@ -28,10 +28,10 @@ inline constexpr std::size_t SpeciesRowCount = 100;
 std::span<const SpeciesRow, SpeciesRowCount> SpeciesRows();
 
 struct DesignValues {
-    float Fb = 0;  // psi
-    float Fv = 0;  // psi
+    float Fb = 0;             // psi
+    float Fv = 0;             // psi
     std::int16_t FcPerp = 0;  // psi
-    float E = 0;   // millions of psi
+    float E = 0;              // millions of psi
 };
 
 /// The row of a species and grade in a size class; the name must be written exactly so.
