@@ -42,7 +42,7 @@ const MemberEntry Timber{.BreadthText = "6x", .DepthText = "12", .SpeciesText = 
 void AppliedLoads(benchmark::State& state)
 {
     Session session = CalculatedSession();
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(ComputeAppliedLoads(session.Numbers, 0, session.Stations));
         benchmark::ClobberMemory();
     }
@@ -52,7 +52,7 @@ BENCHMARK(AppliedLoads);
 void WholeCalculateAction(benchmark::State& state)
 {
     Session session = CalculatedSession();
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         CollectingUser user;
         benchmark::DoNotOptimize(CalculateAction(session, user));
     }
@@ -63,7 +63,7 @@ void OneTestMember(benchmark::State& state)
 {
     Session session = CalculatedSession();
     CollectingUser user;
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(TestMember(session, Timber, {}, user));
     }
 }
@@ -74,7 +74,7 @@ void OneTestReport(benchmark::State& state)
     Session session = CalculatedSession();
     CollectingUser user;
     TestMember(session, Timber, {}, user);
-    for (auto iteration : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(MakeTestReport(session));
     }
 }

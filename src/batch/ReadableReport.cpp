@@ -93,6 +93,7 @@ std::string_view SupportText(const BeamNumbers& beam)
 /// One check of the report, to find the one that governs.
 struct CheckRow {
     std::string_view Caption;
+    std::string_view Unit;
     std::string_view Critical;
     std::string_view Actual;
     std::string_view Status;
@@ -101,13 +102,15 @@ struct CheckRow {
 
 std::array<CheckRow, 6> ChecksOf(const TestReport& report)
 {
-    return {{{report.Label7, report.SectionReq, report.SectionProp, report.SecStatus, report.SecPercent},
-             {report.Label8, report.ShearReq, report.ShearProp, report.ShearStatus, report.HorPercent},
-             {report.Label9, report.DeflReq, report.DeflProp, report.DeflStatus, report.DeflPercent},
-             {report.Label12, report.LDeflReq, report.LDeflProp, report.LDeflStatus, report.LDeflPercent},
-             {report.Label13, report.OHDeflReq, report.OHDeflProp, report.OHDeflStatus, report.OHDeflPercent},
-             {report.Label14, report.OHLDeflReq, report.OHLDeflProp, report.OHLDeflStatus,
-              report.OHLDeflPercent}}};
+    return {
+        {{report.Label7, "in3", report.SectionReq, report.SectionProp, report.SecStatus, report.SecPercent},
+         {report.Label8, "in2", report.ShearReq, report.ShearProp, report.ShearStatus, report.HorPercent},
+         {report.Label9, "in.", report.DeflReq, report.DeflProp, report.DeflStatus, report.DeflPercent},
+         {report.Label12, "in.", report.LDeflReq, report.LDeflProp, report.LDeflStatus, report.LDeflPercent},
+         {report.Label13, "in.", report.OHDeflReq, report.OHDeflProp, report.OHDeflStatus,
+          report.OHDeflPercent},
+         {report.Label14, "in.", report.OHLDeflReq, report.OHLDeflProp, report.OHLDeflStatus,
+          report.OHLDeflPercent}}};
 }
 
 std::string VerdictText(const MemberTestResult& result, const std::array<CheckRow, 6>& checks)
@@ -129,7 +132,8 @@ void WriteChecks(const std::array<CheckRow, 6>& checks, ReportText& text)
     text.Row("Check", {"Critical", "Actual", "Status", "Ratio"});
     for (const CheckRow& check : checks) {
         if (!check.Status.empty()) {
-            text.Row(check.Caption, {check.Critical, check.Actual, check.Status, check.Percent});
+            text.Row(std::string(check.Caption) + ", " + std::string(check.Unit),
+                     {check.Critical, check.Actual, check.Status, check.Percent});
         }
     }
 }
@@ -148,11 +152,11 @@ void WriteMember(const Session& session, ReportText& text)
     text.Captioned("Deflection", report.Label11);
     text.Captioned("", report.Label6);
     text.Captioned("", report.DeadDefl);
-    text.Captioned("Reactions", report.Label10);
+    text.Captioned("Supports", report.Label10);
     text.Captioned("", report.Label15);
     for (const std::string& note :
          {report.SmallChoice, report.DeflTooHigh, report.NoSplitLabel, report.Unbalancedlabel}) {
-        text.Captioned("Note", note);
+        text.Captioned("Advice", note);
     }
 }
 
@@ -178,7 +182,6 @@ void WriteBeam(const BeamRun& run, ReportText& text)
     } else if (run.Analysed) {
         WriteAppliedLoads(run.Work.Analysis, text);
     }
-    text.Line("");
 }
 
 }  // namespace
