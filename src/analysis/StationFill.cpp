@@ -17,11 +17,6 @@ struct NetSums {
     std::array<double, StationTable::PaddedCount> Shear{};
 };
 
-struct StationRange {
-    int First;
-    int End;  // one past the last
-};
-
 /// Fills the table column by column, each of them from end to end.
 class StationFiller {
 public:
