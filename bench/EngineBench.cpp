@@ -3,7 +3,7 @@
 #include "analysis/AppliedLoads.h"
 #include "batch/CollectingUser.h"
 #include "design/CalculateAction.h"
-#include "design/MemberTest.h"
+#include "design/TestMember.h"
 #include "design/TestReport.h"
 
 namespace {

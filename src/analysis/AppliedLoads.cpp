@@ -44,13 +44,13 @@ double SumPartials(const LoadView& loads)
 }
 
 /// Moment about R2 of what lies between R1 and R2, ft-lb.
-double SpanMomentAboutR2(double span, const LoadView& loads, SpanSlots slots)
+double SpanMomentAboutR2(double span, const LoadView& loads, const LoadSlots& slots)
 {
     double moment = loads.Uniform * span * (span / 2);
-    for (std::size_t k = 0; k < slots.Points; ++k) {
+    for (std::size_t k = slots.Points.First; k < slots.Points.End; ++k) {
         moment += loads.Point[k] * (span - loads.Distance[k]);
     }
-    for (std::size_t k = 0; k < slots.Partials; ++k) {
+    for (std::size_t k = slots.Partials.First; k < slots.Partials.End; ++k) {
         moment += PartialLoad(loads, k) * (span - PartialCentre(loads, k));
     }
     return moment;
@@ -60,10 +60,10 @@ double SpanMomentAboutR2(double span, const LoadView& loads, SpanSlots slots)
 double OverhangMomentAboutR2(const LoadView& loads)
 {
     double moment = 0;
-    for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
+    for (std::size_t k = OverhangSlots.Points.First; k < OverhangSlots.Points.End; ++k) {
         moment += loads.Point[k] * loads.Distance[k];
     }
-    for (std::size_t k = FirstOverhangPartial; k < PartialSlotCount; ++k) {
+    for (std::size_t k = OverhangSlots.Partials.First; k < OverhangSlots.Partials.End; ++k) {
         moment += PartialLoad(loads, k) * PartialCentre(loads, k);
     }
     return moment;
@@ -72,10 +72,10 @@ double OverhangMomentAboutR2(const LoadView& loads)
 double OverhangLoad(const LoadView& loads)
 {
     double sum = 0;
-    for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
+    for (std::size_t k = OverhangSlots.Points.First; k < OverhangSlots.Points.End; ++k) {
         sum += loads.Point[k];
     }
-    for (std::size_t k = FirstOverhangPartial; k < PartialSlotCount; ++k) {
+    for (std::size_t k = OverhangSlots.Partials.First; k < OverhangSlots.Partials.End; ++k) {
         sum += PartialLoad(loads, k);
     }
     return sum;
@@ -91,7 +91,7 @@ void AnalyseOverhang(const BeamNumbers& beam, float previousInflectionFt, const 
                      AppliedLoadResult& result)
 {
     const LoadView total = TotalLoads(beam.Loads);
-    result.OverhangFt = Single(OverhangLength(beam.Loads).value_or(0));
+    result.OverhangFt = Single(beam.Overhang);
     result.OverhangLoadSum = Single(OverhangLoad(total));
     result.OverhangMomentApplied = Single(OverhangMomentAboutR2(total));
     result.MaxMomentApplied = std::max(result.MaxMomentStation, result.OverhangMomentApplied);
@@ -138,17 +138,6 @@ void StoreTotals(const BeamNumbers& beam, AppliedLoadResult& result)
 
 }  // namespace
 
-std::optional<double> OverhangLength(const LoadNumbers& loads)
-{
-    const std::array<double, 4> reaches{loads.DIS[4], loads.DIS[5], loads.ENDP[3], loads.ENDP[4]};
-    for (const double reach : reaches) {
-        if (std::all_of(reaches.begin(), reaches.end(), [reach](double other) { return reach >= other; })) {
-            return reach;
-        }
-    }
-    return std::nullopt;
-}
-
 LoadTotals SumLoads(const BeamNumbers& beam)
 {
     const LoadView total = TotalLoads(beam.Loads);
@@ -193,7 +182,7 @@ AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInf
         ReplaceHipValleyReactions(beam, result);
     }
     result.HasLiveDeflFlag = HasLiveLoad(beam.Loads);
-    result.Deflecting = EquivalentLoads(beam, result.OverhangFt);
+    result.Deflecting = EquivalentLoads(beam);
     return result;
 }
 

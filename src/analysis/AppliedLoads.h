@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "analysis/AnalysisResult.h"
 #include "analysis/StationTable.h"
 #include "core/BeamNumbers.h"
@@ -15,10 +13,6 @@ namespace kordavan {
 /// @param previousInflectionFt  kept when an overhanging beam has no negative moment at any station
 AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt,
                                       StationTable& table);
-
-/// Overhang length by the numbers: the first of DIS[4], DIS[5], ENDP[3], ENDP[4] that is at least as large as
-/// the other three, ft. None only when one of them is not a number.
-std::optional<double> OverhangLength(const LoadNumbers& loads);
 
 struct LoadTotals {
     double PointTotal = 0;    // lb

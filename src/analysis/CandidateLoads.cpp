@@ -14,9 +14,9 @@ void AddToSimpleSpan(double w, double L, const AppliedLoadResult& applied, Candi
     loads.MaxMomentFtLb = Single(w * L * L / 8 + applied.MaxMomentApplied);
 }
 
-void AddToOverhangingBeam(double w, double L, const AppliedLoadResult& applied, CandidateLoadResult& loads)
+void AddToOverhangingBeam(double w, double L, double c, const AppliedLoadResult& applied,
+                          CandidateLoadResult& loads)
 {
-    const double c = applied.OverhangFt;
     const double x = applied.MaxMomentAtFt;
     loads.R1Total = Single((L * L - c * c) * (w / (2 * L)) + applied.R1Applied);
     loads.R2Total = Single((L + c) * (L + c) * (w / (2 * L)) + applied.R2Applied);
@@ -41,7 +41,7 @@ CandidateLoadResult ComputeCandidateLoads(const BeamNumbers& beam, const Section
     const double L = beam.Span;
     CandidateLoadResult loads;
     loads.SelfWeightPlf = section.SelfWeightPlf;
-    loads.SelfWeightTotal = Single((L + applied.OverhangFt) * w);
+    loads.SelfWeightTotal = Single((L + beam.Overhang) * w);
     loads.TotalLoadWithSelf = applied.TotalAppliedLoad + loads.SelfWeightTotal;
     switch (beam.Support) {
         case SupportCondition::SimpleSpan:
@@ -49,7 +49,7 @@ CandidateLoadResult ComputeCandidateLoads(const BeamNumbers& beam, const Section
             AddToSimpleSpan(w, L, applied, loads);
             break;
         case SupportCondition::Overhanging:
-            AddToOverhangingBeam(w, L, applied, loads);
+            AddToOverhangingBeam(w, L, beam.Overhang, applied, loads);
             break;
         case SupportCondition::MultipleSpans:
             AddToContinuousBeam(w, L, CoefficientsOf(beam), applied, loads);

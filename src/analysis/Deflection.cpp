@@ -18,8 +18,6 @@ constexpr double SimpleSpanCoefficient = 0.013;
 /// Span lift by a uniform load on the overhang: half of the lift by an end moment.
 constexpr double OverhangUniformLift = 0.03208;
 
-constexpr double PsiPerMillion = 1000000;
-
 struct BeamInches {
     double Span;
     double Overhang;
@@ -105,7 +103,7 @@ DeflectionResult ComputeDeflection(const BeamNumbers& beam, const SectionProps& 
                                    const CandidateLoadResult& loads)
 {
     const BeamInches in{.Span = InchesPerFoot * beam.Span,
-                        .Overhang = InchesPerFoot * applied.OverhangFt,
+                        .Overhang = InchesPerFoot * beam.Overhang,
                         .EI = EPrimeMillions * PsiPerMillion * section.I};
     DeflectionResult result;
     result.CreepFactor = CreepFactorOf(beam);
@@ -118,8 +116,10 @@ DeflectionResult ComputeDeflection(const BeamNumbers& beam, const SectionProps& 
 
 bool IsFinite(const DeflectionResult& result)
 {
-    const std::array values{result.TotalDeflIn,   result.LiveDeflIn,       result.TipDeflIn,
-                            result.TipLiveDeflIn, result.AllowTotalDeflIn, result.AllowLiveDeflIn};
+    const std::array values{result.TotalDeflIn,     result.LiveDeflIn,       result.TipDeflIn,
+                            result.TipLiveDeflIn,   result.AllowTotalDeflIn, result.AllowLiveDeflIn,
+                            result.TotalDeflRatio,  result.LiveDeflRatio,    result.TipDeflRatio,
+                            result.TipLiveDeflRatio};
     return std::all_of(values.begin(), values.end(), [](float value) { return std::isfinite(value); });
 }
 

@@ -4,13 +4,14 @@
 #include <cstddef>
 
 #include "analysis/LoadView.h"
+#include "analysis/StationTable.h"
 #include "analysis/Stations.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr int SpanSteps = 200;
+constexpr int SpanSteps = LastStation;
 constexpr int OverhangSteps = 100;
 
 /// A point load P at a makes as much midspan deflection as a total uniform load of 6.35 P a (L - a) / L^2.
@@ -66,16 +67,16 @@ using Passes = std::array<Pass, 2>;
 void AddSpan(const BeamNumbers& beam, double overhangIn, const Passes& passes)
 {
     const double L = beam.Span;
-    const SpanSlots slots = SlotsOnSpan(beam.Support);
+    const LoadSlots& slots = SlotsOnSpan(beam.Support);
     const StationLine line{L, SpanSteps};
     for (const auto& [loads, sums] : passes) {
-        for (std::size_t k = 0; k < slots.Points; ++k) {
+        for (std::size_t k = slots.Points.First; k < slots.Points.End; ++k) {
             if (loads.Point[k] > 0) {
                 AddSpanPoint(loads.Point[k], loads.Distance[k], L, overhangIn, sums);
             }
         }
     }
-    for (std::size_t k = 0; k < slots.Partials; ++k) {
+    for (std::size_t k = slots.Partials.First; k < slots.Partials.End; ++k) {
         if (beam.Loads.PAR[k] <= 0) {
             continue;
         }
@@ -86,24 +87,24 @@ void AddSpan(const BeamNumbers& beam, double overhangIn, const Passes& passes)
     }
 }
 
-void AddOverhang(const BeamNumbers& beam, double overhangFt, const Passes& passes)
+void AddOverhang(const BeamNumbers& beam, const Passes& passes)
 {
     const double spanIn = InchesPerFoot * beam.Span;
-    const StationLine line{overhangFt, OverhangSteps};
+    const StationLine line{beam.Overhang, OverhangSteps};
     for (const auto& [loads, sums] : passes) {
-        for (std::size_t k = FirstOverhangPoint; k < PointSlotCount; ++k) {
+        for (std::size_t k = OverhangSlots.Points.First; k < OverhangSlots.Points.End; ++k) {
             if (loads.Point[k] > 0) {
                 AddOverhangPoint(loads.Point[k], loads.Distance[k], spanIn, sums);
             }
         }
     }
-    for (std::size_t k = FirstOverhangPartial; k < PartialSlotCount; ++k) {
+    for (std::size_t k = OverhangSlots.Partials.First; k < OverhangSlots.Partials.End; ++k) {
         if (beam.Loads.PAR[k] <= 0) {
             continue;
         }
         const StationSums strips = SumStationsBetween(line, beam.Loads.BEGP[k], beam.Loads.ENDP[k]);
         for (const auto& [loads, sums] : passes) {
-            AddOverhangPartial(loads.Partial[k], strips, spanIn, InchesPerFoot * overhangFt, sums);
+            AddOverhangPartial(loads.Partial[k], strips, spanIn, InchesPerFoot * beam.Overhang, sums);
         }
     }
 }
@@ -115,11 +116,11 @@ double UniformTipLift(double spanIn, double overhangIn, double w)
     return spanIn * spanIn * spanIn * (w / InchesPerFoot) * overhangIn / 24;
 }
 
-DeflectionPasses EquivalentLoads(const BeamNumbers& beam, double overhangFt)
+DeflectionPasses EquivalentLoads(const BeamNumbers& beam)
 {
     DeflectionPasses result;
     const Passes passes{Pass{TotalLoads(beam.Loads), result.Total}, Pass{LiveLoads(beam.Loads), result.Live}};
-    const double overhangIn = InchesPerFoot * overhangFt;
+    const double overhangIn = InchesPerFoot * beam.Overhang;
     for (const auto& [loads, sums] : passes) {
         sums.OnSpan = loads.Uniform * beam.Span;
         sums.TipLift = UniformTipLift(InchesPerFoot * beam.Span, overhangIn, loads.Uniform);
@@ -128,7 +129,7 @@ DeflectionPasses EquivalentLoads(const BeamNumbers& beam, double overhangFt)
         AddSpan(beam, overhangIn, passes);
     }
     if (beam.IsOverhanging()) {
-        AddOverhang(beam, overhangFt, passes);
+        AddOverhang(beam, passes);
     }
     return result;
 }

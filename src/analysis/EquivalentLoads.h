@@ -10,7 +10,7 @@ namespace kordavan {
 ///
 /// A partial load is cut in strips at the stations (200 steps of the span, 100 of the overhang); the sums
 /// over strips are taken in closed form, so the cost does not hang on the number of stations.
-DeflectionPasses EquivalentLoads(const BeamNumbers& beam, double overhangFt);
+DeflectionPasses EquivalentLoads(const BeamNumbers& beam);
 
 /// Tip lift, times EI, by a uniform load of w plf on the span, lb-in3.
 double UniformTipLift(double spanIn, double overhangIn, double w);

@@ -6,9 +6,8 @@ namespace kordavan {
 
 namespace {
 
-// pi/32, pi/4 and pi/64, to the digits that the trade's tables print.
+// pi/32 and pi/64, to the digits that the trade's tables print.
 constexpr double RoundModulusFactor = 0.0981746;
-constexpr double RoundAreaFactor = 0.7854;
 constexpr double RoundInertiaFactor = 0.0490873;
 
 float WeightPerFoot(double area, const WeightBasis& weight)
@@ -38,9 +37,9 @@ SectionProps RoundProps(double diameter, const WeightBasis& weight)
             .D = d,
             .Round = true,
             .S = Single(RoundModulusFactor * d * d * d),
-            .A = Single(RoundAreaFactor * d * d),
+            .A = Single(CircleAreaFactor * d * d),
             .I = Single(RoundInertiaFactor * d * d * d * d),
-            .SelfWeightPlf = WeightPerFoot(RoundAreaFactor * d * d, weight)};
+            .SelfWeightPlf = WeightPerFoot(CircleAreaFactor * d * d, weight)};
 }
 
 }  // namespace kordavan

@@ -20,6 +20,9 @@ struct WeightBasis {
     float SlopeFactor = 1;
 };
 
+/// pi/4 to the digits that the trade's tables print: the area of a circle over its diameter squared.
+inline constexpr double CircleAreaFactor = 0.7854;
+
 struct RectangleSize {
     double B = 0;  // in.
     double D = 0;  // in.

@@ -15,26 +15,6 @@ namespace {
 constexpr double RectangleShearFactor = 1.5;
 constexpr double RoundShearFactor = 1.33333;
 
-/// Slots from First up to End.
-struct SlotRange {
-    std::size_t First;
-    std::size_t End;
-};
-
-struct LoadSlots {
-    SlotRange Points;
-    SlotRange Partials;
-};
-
-LoadSlots SpanLoads(const BeamNumbers& beam)
-{
-    const SpanSlots slots = SlotsOnSpan(beam.Support);
-    return {{0, slots.Points}, {0, slots.Partials}};
-}
-
-constexpr LoadSlots OverhangLoads{{FirstOverhangPoint, PointSlotCount},
-                                  {FirstOverhangPartial, PartialSlotCount}};
-
 /// The part of a point load that is left out when it stands nearer to the support than the depth D.
 double PointInside(const BeamNumbers& beam, double load, double fromSupport, double D)
 {
@@ -115,7 +95,7 @@ void OverhangShear(const BeamNumbers& beam, double D, const AppliedLoadResult& a
                    const CandidateLoadResult& loads, ShearResult& result)
 {
     const double w = loads.SelfWeightPlf;
-    const double overhangShear = applied.OverhangLoadSum + applied.OverhangFt * w;
+    const double overhangShear = applied.OverhangLoadSum + beam.Overhang * w;
     const double spanSide = loads.R2Total - overhangShear;
     const double tipSide = loads.R2Total - spanSide;
     const std::optional<double> greatest = Largest({loads.R1Total, spanSide, tipSide});
@@ -125,12 +105,12 @@ void OverhangShear(const BeamNumbers& beam, double D, const AppliedLoadResult& a
     }
     result.ShearMax = Single(*greatest);
 
-    const LoadSlots onSpan = SpanLoads(beam);
+    const LoadSlots& onSpan = SlotsOnSpan(beam.Support);
     const double uniformInside = (w + beam.Loads.UNIF) * D;
     const OverhangShears reduced{
         .AtR1 = loads.R1Total - (uniformInside + LoadInsideStart(beam, onSpan, D)),
         .AtR2Span = spanSide - (uniformInside + LoadInsideEnd(beam, onSpan, D)),
-        .AtR2Tip = tipSide - (w * D + LoadInsideStart(beam, OverhangLoads, D)),
+        .AtR2Tip = tipSide - (w * D + LoadInsideStart(beam, OverhangSlots, D)),
     };
     const std::optional<double> greatestReduced = Largest(reduced);
     if (!greatestReduced) {
@@ -141,7 +121,7 @@ void OverhangShear(const BeamNumbers& beam, double D, const AppliedLoadResult& a
 
 void SimpleSpanShear(const BeamNumbers& beam, double D, const CandidateLoadResult& loads, ShearResult& result)
 {
-    const LoadSlots onSpan = SpanLoads(beam);
+    const LoadSlots& onSpan = SlotsOnSpan(beam.Support);
     const double uniformInside = (loads.SelfWeightPlf + beam.Loads.UNIF) * D;
     const double atLeft = loads.R1Total - (uniformInside + LoadInsideStart(beam, onSpan, D));
     const double atRight = loads.R2Total - (uniformInside + LoadInsideEnd(beam, onSpan, D));

@@ -141,16 +141,16 @@ void FillStations(const BeamNumbers& beam, double reaction, StationTable& table)
         return;
     }
     const LoadNumbers& loads = beam.Loads;
-    const SpanSlots slots = SlotsOnSpan(beam.Support);
+    const LoadSlots& slots = SlotsOnSpan(beam.Support);
     for (std::size_t k = 0; k < PointSlotCount; ++k) {
-        if (k < slots.Points && loads.PT[k] > 0) {
+        if (k < slots.Points.End && loads.PT[k] > 0) {
             filler.AddPoint(k, loads.PT[k], loads.DIS[k]);
         } else {
             filler.LeavePoint(k);
         }
     }
     for (std::size_t k = 0; k < PartialSlotCount; ++k) {
-        if (k < slots.Partials && loads.PAR[k] > 0) {
+        if (k < slots.Partials.End && loads.PAR[k] > 0) {
             filler.AddPartial(k, loads.PAR[k], loads.BEGP[k], loads.ENDP[k]);
         } else {
             filler.LeavePartial(k);

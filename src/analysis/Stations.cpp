@@ -6,15 +6,8 @@ namespace kordavan {
 
 namespace {
 
-bool IsBeyond(const StationLine& line, int station, double place)
-{
-    return station * line.Length > place * line.Steps;
-}
-
-bool IsBefore(const StationLine& line, int station, double place)
-{
-    return station * line.Length < place * line.Steps;
-}
+/// Products of decimals in binary form that differ by no more than this part of them are the same.
+constexpr double BinaryNoise = 1e-12;
 
 /// A station within one of the place, which is not negative, to search from.
 int StationNear(const StationLine& line, double place)
@@ -35,11 +28,12 @@ StationSums SumsUpTo(double last)
 
 int StationLine::FirstBeyond(double place) const
 {
+    const double limit = place * Steps * (1 + BinaryNoise);
     int station = StationNear(*this, place);
-    while (station > 0 && IsBeyond(*this, station - 1, place)) {
+    while (station > 0 && (station - 1) * Length > limit) {
         --station;
     }
-    while (station <= Steps && !IsBeyond(*this, station, place)) {
+    while (station <= Steps && station * Length <= limit) {
         ++station;
     }
     return station;
@@ -47,8 +41,9 @@ int StationLine::FirstBeyond(double place) const
 
 int StationLine::LastBefore(double place) const
 {
+    const double limit = place * Steps * (1 - BinaryNoise);
     int station = std::min(StationNear(*this, place) + 1, Steps);
-    while (station >= 0 && !IsBefore(*this, station, place)) {
+    while (station >= 0 && station * Length >= limit) {
         --station;
     }
     return station;

@@ -6,8 +6,8 @@ namespace kordavan {
 
 /// Evenly spaced stations along a length: station i stands at i * Length / Steps, i from 0 to Steps.
 ///
-/// Whether a place lies before or beyond a station is decided without rounding the station's place, so that
-/// a load exactly on a station is neither.
+/// Whether a place lies before or beyond a station is decided as its decimals read, not by their rounding in
+/// binary, so that a load exactly on a station is neither.
 struct StationLine {
     double Length = 0;  // ft
     int Steps = 0;

@@ -81,6 +81,11 @@ void AnswerWriter::Item(double value)
     WriteNumber(value);
 }
 
+void AnswerWriter::Item(bool flag)
+{
+    json.Bool(flag);
+}
+
 void AnswerWriter::Messages(std::string_view name, const std::vector<Message>& messages)
 {
     BeginArray(name);

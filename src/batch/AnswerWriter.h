@@ -33,6 +33,7 @@ public:
 
     void Item(float value);
     void Item(double value);
+    void Item(bool flag);
 
     void Messages(std::string_view name, const std::vector<Message>& messages);
     void MessageField(std::string_view name, const Message& message);

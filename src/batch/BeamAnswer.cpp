@@ -1,8 +1,12 @@
 #include "batch/BeamAnswer.h"
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <variant>
 
+#include "batch/CriteriaFields.h"
+#include "core/EntryRules.h"
 #include "core/NumberText.h"
 #include "design/TestReport.h"
 
@@ -186,6 +190,65 @@ void WriteSlenderness(const SlendernessResult& slenderness, const SlendernessNam
     answer.Field(names.FbEOverFbStar, slenderness.FbEOverFbStar);
 }
 
+/// Writes one field of the criteria as it stands: numbers of numeric boxes, a blank as 0, and plain texts.
+struct CriteriaWriter {
+    std::string_view Name;
+    const BeamProblem& Problem;
+    AnswerWriter& Answer;
+
+    void operator()(std::string BeamProblem::*text) const { WriteText(Problem.*text); }
+    void operator()(std::string LoadSet::*text) const { WriteText(Problem.Loads.*text); }
+    void operator()(PointTexts LoadSet::*texts) const { WriteTexts(Problem.Loads.*texts); }
+    void operator()(PartialTexts LoadSet::*texts) const { WriteTexts(Problem.Loads.*texts); }
+    void operator()(bool BeamProblem::*flag) const { Answer.Field(Name, Problem.*flag); }
+    void operator()(bool LoadSet::*flag) const { Answer.Field(Name, Problem.Loads.*flag); }
+    void operator()(SupportCondition support) const { Answer.Field(Name, Problem.Support == support); }
+    void operator()(RepetitiveSpacing spacing) const { Answer.Field(Name, Problem.Spacing == spacing); }
+    void operator()(SteelFamily family) const { Answer.Field(Name, Problem.Family == family); }
+    void operator()(MaterialGroup /*group*/) const { Answer.Field(Name, static_cast<int>(Problem.Combo1)); }
+
+    void operator()(SpanFlag flag) const
+    {
+        const bool isThree = flag == SpanFlag::ThreeSpan;
+        Answer.Field(Name,
+                     Problem.Support == SupportCondition::MultipleSpans && Problem.ThreeSpan == isThree);
+    }
+
+    void operator()(std::array<bool, PlanQuarterCount> LoadSet::*flags) const
+    {
+        Answer.BeginArray(Name);
+        for (const bool flag : Problem.Loads.*flags) {
+            Answer.Item(flag);
+        }
+        Answer.EndArray();
+    }
+
+private:
+    static bool IsNumber(std::string_view name)
+    {
+        return FindEntryRule(name) != nullptr || name == "Dur" || name == "MaxDefl" || name == "LMaxDefl";
+    }
+
+    void WriteText(const std::string& text) const
+    {
+        if (IsNumber(Name)) {
+            Answer.Field(Name, Val(text));
+        } else {
+            Answer.Field(Name, std::string_view(text));
+        }
+    }
+
+    template <typename Texts>
+    void WriteTexts(const Texts& texts) const
+    {
+        Answer.BeginArray(Name);
+        for (const std::string& text : texts) {
+            Answer.Item(Val(text));
+        }
+        Answer.EndArray();
+    }
+};
+
 void WriteCandidate(const MemberCandidate& candidate, AnswerWriter& answer)
 {
     answer.BeginObject("member");
@@ -295,19 +358,11 @@ void WriteReport(const Session& session, AnswerWriter& answer)
 
 void WriteHipValley(const Session& session, AnswerWriter& answer)
 {
-    const BeamProblem& problem = session.Problem;
-    const LoadSet& loads = problem.Loads;
     answer.BeginObject("criteria");
-    answer.Field("Span", Val(problem.Span));
-    answer.Field("UNIF", Single(Val(loads.UNIF)));
-    answer.Field("LUNIF", Single(Val(loads.LUNIF)));
-    answer.Field("IncTL", Val(loads.IncTL));
-    answer.Field("IncLL", Val(loads.IncLL));
-    answer.Field("IncUnifTL", Val(loads.IncUnifTL));
-    answer.Field("IncUnifLL", Val(loads.IncUnifLL));
-    answer.Field("Trib1", Val(loads.Trib1));
-    answer.Field("Trib2", Val(loads.Trib2));
-    answer.Field("SlopeFactor", RafterSlopeFactor(problem));
+    for (const CriteriaField& field : CriteriaFields()) {
+        std::visit(CriteriaWriter{field.Name, session.Problem, answer}, field.Target);
+    }
+    answer.Field("SlopeFactor", RafterSlopeFactor(session.Problem));
     answer.Field("IncreasingTotalLoad", session.IncreasingTotalLoad);
     answer.Field("IncreasingLiveLoad", session.IncreasingLiveLoad);
     answer.EndObject();

@@ -9,7 +9,7 @@
 #include "batch/MemberRequest.h"
 #include "design/CalculateAction.h"
 #include "design/LoadTools.h"
-#include "design/MemberTest.h"
+#include "design/TestMember.h"
 
 namespace kordavan {
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <exception>
 #include <string>
 
@@ -113,17 +114,34 @@ std::array<CheckRow, 6> ChecksOf(const TestReport& report)
           report.OHLDeflPercent}}};
 }
 
+double Ratio(double used, double allowed)
+{
+    return allowed == 0 ? 0 : std::abs(used) / allowed;
+}
+
+/// Unrounded ratios in the order of the rows.
+std::array<double, 6> RatiosOf(const MemberTestResult& result)
+{
+    return {Ratio(result.SectionReq, result.SectionProp),
+            Ratio(result.ActualShearStress, result.FvAdj),
+            Ratio(result.TotalDeflection, result.TotalDeflectionAllowed),
+            Ratio(result.LiveDeflection, result.LiveDeflectionAllowed),
+            Ratio(result.OverhangDeflection, result.OverhangDeflectionAllowed),
+            Ratio(result.OverhangLiveDeflection, result.OverhangLiveDeflectionAllowed)};
+}
+
 std::string VerdictText(const MemberTestResult& result, const std::array<CheckRow, 6>& checks)
 {
-    const auto governing = std::max_element(
-        checks.begin(), checks.end(),
-        [](const CheckRow& a, const CheckRow& b) { return Val(a.Percent) < Val(b.Percent); });
+    const std::array<double, 6> ratios = RatiosOf(result);
+    const auto largest =
+        static_cast<std::size_t>(std::max_element(ratios.begin(), ratios.end()) - ratios.begin());
+    const CheckRow& governing = checks[largest];
     const std::string_view status = result.Overall.empty() ? "OK with NO SPLITS" : result.Overall;
     std::string text(status);
     text += ", governed by ";
-    text += governing->Caption;
+    text += governing.Caption;
     text += " at ";
-    text += governing->Percent;
+    text += governing.Percent;
     return text;
 }
 

@@ -41,6 +41,13 @@ bool AnyAboveZero(const std::array<double, Count>& values)
     return std::any_of(values.begin(), values.end(), [](double value) { return value > 0; });
 }
 
+template <std::size_t Count>
+bool AllFinite(const std::array<double, Count>& values)
+{
+    return std::all_of(values.begin(), values.end(),
+                       [](double value) { return std::isfinite(Single(value)); });
+}
+
 }  // namespace
 
 BeamNumbers ReadBeamNumbers(const BeamProblem& problem)
@@ -49,12 +56,15 @@ BeamNumbers ReadBeamNumbers(const BeamProblem& problem)
     beam.Support = problem.Support;
     beam.ThreeSpan = problem.ThreeSpan;
     beam.Span = Val(problem.Span);
-    beam.UBL = Val(problem.UBLtext);
-    beam.CantUBL = Val(problem.CantUBLtext);
     beam.Dur = Val(problem.Dur);
     beam.MaxDefl = Val(problem.MaxDefl);
     beam.LMaxDefl = Val(problem.LMaxDefl);
     beam.Loads = ReadLoadNumbers(problem.Loads);
+    if (!beam.IsContinuous()) {
+        beam.UBL = Val(problem.UBLtext);
+        beam.CantUBL = Val(problem.CantUBLtext);
+    }
+    beam.Overhang = beam.IsOverhanging() ? OverhangLength(beam.Loads) : 0;
     beam.Group = problem.Combo1;
     beam.Rep = problem.Rep;
     beam.Wet = problem.Wet;
@@ -74,9 +84,20 @@ float RafterSlopeFactor(const BeamProblem& problem)
     return Single(1 / std::cos(std::atan(Val(problem.Pitchtext) / runIn)));
 }
 
+double OverhangLength(const LoadNumbers& loads)
+{
+    return std::max({loads.DIS[4], loads.DIS[5], loads.ENDP[3], loads.ENDP[4]});
+}
+
 bool HasLiveLoad(const LoadNumbers& loads)
 {
     return loads.LUNIF > 0 || AnyAboveZero(loads.LPT) || AnyAboveZero(loads.LPAR);
+}
+
+bool IsFinite(const LoadNumbers& loads)
+{
+    return AllFinite(std::array{loads.UNIF, loads.LUNIF, loads.IncUnifTL, loads.IncUnifLL}) &&
+           AllFinite(loads.PT) && AllFinite(loads.LPT) && AllFinite(loads.PAR) && AllFinite(loads.LPAR);
 }
 
 }  // namespace kordavan

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "core/BeamProblem.h"
 #include "core/NdsEdition.h"
@@ -8,6 +10,7 @@
 namespace kordavan {
 
 inline constexpr double InchesPerFoot = 12;
+inline constexpr double PsiPerMillion = 1000000;
 
 using PointValues = std::array<double, PointSlotCount>;
 using PartialValues = std::array<double, PartialSlotCount>;
@@ -34,6 +37,7 @@ struct BeamNumbers {
     double Span = 0;      // ft
     double UBL = 0;       // unbraced length of the span, ft
     double CantUBL = 0;   // unbraced length of the overhang, ft
+    double Overhang = 0;  // up to its farthest load, ft; 0 without one
     double Dur = 1;       // load duration factor
     double MaxDefl = 0;   // span over this is the total load deflection allowed
     double LMaxDefl = 0;  // the same of the live load
@@ -59,13 +63,29 @@ struct BeamNumbers {
     bool IsContinuous() const { return Support == SupportCondition::MultipleSpans; }
 };
 
-/// Reads the entries of the problem; edition, slope, density and increasing loads are the caller's to set.
+/// Reads the entries of the problem; edition, slope, density and increasing loads are the caller's to set. A
+/// continuous beam is braced whatever its boxes hold.
 BeamNumbers ReadBeamNumbers(const BeamProblem& problem);
 
 /// Length along the slope over horizontal length: 1 / cos(atan(rise/12)), or 1 without slope adjustment.
 float RafterSlopeFactor(const BeamProblem& problem);
 
+/// Overhang length: the largest of DIS[4], DIS[5], ENDP[3] and ENDP[4], ft.
+double OverhangLength(const LoadNumbers& loads);
+
 /// True when any live load is entered.
 bool HasLiveLoad(const LoadNumbers& loads);
+
+/// False when a load is beyond a 32-bit float.
+bool IsFinite(const LoadNumbers& loads);
+
+/// True when every value in the range of slots is 0.
+template <typename Values>
+bool AllZero(const Values& values, SlotRange slots)
+{
+    return std::all_of(values.begin() + static_cast<std::ptrdiff_t>(slots.First),
+                       values.begin() + static_cast<std::ptrdiff_t>(slots.End),
+                       [](double value) { return value == 0; });
+}
 
 }  // namespace kordavan

@@ -90,16 +90,26 @@ struct BeamProblem {
     LoadSet Loads;
 };
 
-/// The slots on the span between R1 and R2: all of them, but for the overhang's.
-struct SpanSlots {
-    std::size_t Points = PointSlotCount;
-    std::size_t Partials = PartialSlotCount;
+/// Slots from First up to End.
+struct SlotRange {
+    std::size_t First;
+    std::size_t End;
 };
 
-constexpr SpanSlots SlotsOnSpan(SupportCondition support)
+struct LoadSlots {
+    SlotRange Points;
+    SlotRange Partials;
+};
+
+inline constexpr LoadSlots AllSlots{{0, PointSlotCount}, {0, PartialSlotCount}};
+inline constexpr LoadSlots BackspanSlots{{0, FirstOverhangPoint}, {0, FirstOverhangPartial}};
+inline constexpr LoadSlots OverhangSlots{{FirstOverhangPoint, PointSlotCount},
+                                         {FirstOverhangPartial, PartialSlotCount}};
+
+/// The slots on the span between R1 and R2: all of them, but for the overhang's.
+constexpr const LoadSlots& SlotsOnSpan(SupportCondition support)
 {
-    return support == SupportCondition::Overhanging ? SpanSlots{FirstOverhangPoint, FirstOverhangPartial}
-                                                    : SpanSlots{};
+    return support == SupportCondition::Overhanging ? BackspanSlots : AllSlots;
 }
 
 /// The spacing that counts: none without repetitive use.

@@ -30,10 +30,9 @@ constexpr std::array Rules{
     EntryRule{
         "UBLtext", EntryKind::Unbraced,
         "Please enter a valid numeric value for the unbraced length in feet (and decimal fraction, if any)"},
-    EntryRule{
-        "CantUBLtext", EntryKind::Unbraced,
-        "Please enter a valid numeric value for the unbraced length of Overhang in feet (enter in the blue "
-        "box)."},
+    EntryRule{"CantUBLtext", EntryKind::Unbraced,
+              "Please enter a valid numeric value for the unbraced length of Overhang in feet (enter in the "
+              "blue box)."},
     EntryRule{"Pitchtext", EntryKind::Pitch,
               "Please enter a valid numeric value for the roof pitch in feet (and decimal fraction, if any)"},
     EntryRule{
@@ -118,8 +117,7 @@ Message DoubtfulDurationWarning()
     return Alert(
         "Are you sure you want to enter this Duration of load?\n"
         "Please see the Duration of Load 'On Line Help' button, (the small gray square next to Duration of "
-        "Load), "
-        "or see Help for acceptable values.",
+        "Load), or see Help for acceptable values.",
         "Dur");
 }
 

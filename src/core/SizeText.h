@@ -7,13 +7,6 @@
 
 namespace kordavan {
 
-/// A member's size as it is written, stored and shown: "(2) 2x" and "11-7/8". The text is the key; nothing is
-/// parsed, each known text names its net dimension.
-struct SizeText {
-    std::string Breadth;
-    std::string Depth;
-};
-
 /// A text of a few characters that can be made at compile time.
 class ShortText {
 public:

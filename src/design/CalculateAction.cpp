@@ -30,17 +30,14 @@ constexpr std::string_view OnlyDeadLoad =
     "Attention:  No live loads have been entered, therefore the Total Loads entered will be treated as only "
     "Dead Load.\n"
     "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical "
-    "load "
-    "combination.";
+    "load combination.";
 constexpr std::string_view LargeDeadLoad =
     "Attention:  Your Dead Load is large relative to the total load.\n"
     "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical "
-    "load "
-    "combination.";
+    "load combination.";
 constexpr std::string_view SlopedDeadLoad =
     "Slope Adjustment is checked and no live loads are entered. All total loads are assumed to be entirely "
-    "Dead Loads "
-    "and will be increased for the slope of the roof.";
+    "Dead Loads and will be increased for the slope of the roof.";
 constexpr std::string_view LiveAboveTotalOverall =
     "The overall live load is Larger than the overall total load.  Please re-check the load entries.";
 constexpr std::string_view FaultTitle = "Kordavan Error: Form 1";
@@ -137,15 +134,15 @@ Outcome AdjustAndAnalyse(Session& session, UserPort& user)
     EntriesToRestore restore = session.Restore;
     AdjustEntries(adjusted, RafterSlopeFactor(adjusted), restore);
     const BeamNumbers beam = ReadNumbers(session, adjusted);
-    const AppliedLoadResult applied =
-        ComputeAppliedLoads(beam, session.Analysis.InflectionFt, session.Stations);
-    if (!IsFinite(applied)) {
-        session.Stations.Clear();
+    StationTable stations;
+    const AppliedLoadResult applied = ComputeAppliedLoads(beam, session.Analysis.InflectionFt, stations);
+    if (!IsFinite(beam.Loads) || !IsFinite(applied)) {
         return RefuseOverflow(user);
     }
     session.Problem = std::move(adjusted);
     session.Restore = std::move(restore);
     session.Numbers = beam;
+    session.Stations = stations;
     session.Analysis = AnalysisResult{};
     static_cast<AppliedLoadResult&>(session.Analysis) = applied;
     return Outcome::Done;

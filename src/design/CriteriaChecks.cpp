@@ -35,15 +35,14 @@ Finding CheckDuration(const BeamProblem& /*problem*/, const BeamNumbers& beam)
         return Refusal(
             "The Duration of Load default for a normal load is 1.0\n"
             "It may not be zero or empty.  Please click the Duration of Load 'On Line Help' button, (the "
-            "small gray "
-            "square next to Duration of Load), or see Help.",
+            "small gray square next to Duration of Load), or see Help.",
             "Dur");
     }
     if (beam.Dur > MostDuration || beam.Dur < LeastDuration) {
         return Refusal(
             "Your Duration of Load entry may be incorrect.  To choose an acceptable factor, click the "
-            "Duration of Load "
-            "'On Line Help' button, (the small gray square next to Duration of Load), or see Help.",
+            "Duration of Load 'On Line Help' button, (the small gray square next to Duration of Load), or "
+            "see Help.",
             "Dur");
     }
     return std::nullopt;
@@ -57,15 +56,14 @@ Finding CheckPitch(const BeamProblem& problem, const BeamNumbers& /*beam*/)
     }
     return Refusal(
         "The Slope Adjustment checkbox is checked. Please either uncheck the slope adjustment checkbox or "
-        "enter a PITCH "
-        "in inches so Kordavan can make the adjustment.",
+        "enter a PITCH in inches so Kordavan can make the adjustment.",
         "Pitchtext");
 }
 
 Finding CheckPointLoads(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
     const LoadNumbers& loads = beam.Loads;
-    for (std::size_t k = 0; k < SlotsOnSpan(beam.Support).Points; ++k) {
+    for (std::size_t k = 0; k < SlotsOnSpan(beam.Support).Points.End; ++k) {
         const bool loaded = loads.PT[k] > 0 || loads.LPT[k] > 0;
         if (loaded && loads.DIS[k] == 0) {
             return Refusal("Please enter a Distance from the starting reaction for the Point Load",
@@ -89,7 +87,7 @@ Finding CheckPointLoads(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 Finding CheckOverhangPointLoads(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
     const LoadNumbers& loads = beam.Loads;
-    for (std::size_t k = SlotsOnSpan(beam.Support).Points; k < PointSlotCount; ++k) {
+    for (std::size_t k = SlotsOnSpan(beam.Support).Points.End; k < PointSlotCount; ++k) {
         if ((loads.PT[k] > 0 || loads.LPT[k] > 0) && loads.DIS[k] == 0) {
             return Refusal("Please enter a Distance for the overhang point load", BoxName("DIS", k));
         }
@@ -125,7 +123,7 @@ Finding CheckPartialLoads(const BeamProblem& /*problem*/, const BeamNumbers& bea
 
 Finding CheckPartialEnds(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
-    for (std::size_t k = 0; k < SlotsOnSpan(beam.Support).Partials; ++k) {
+    for (std::size_t k = 0; k < SlotsOnSpan(beam.Support).Partials.End; ++k) {
         if (IsPartialLoaded(beam.Loads, k) && beam.Span < beam.Loads.ENDP[k]) {
             return Refusal(
                 "Please enter an End location (for the Partial Uniform Load) that is less than the Span",
@@ -147,25 +145,17 @@ Finding CheckPartialBeginnings(const BeamProblem& problem, const BeamNumbers& be
     return std::nullopt;
 }
 
-template <typename Values>
-bool AllZeroFrom(const Values& values, std::size_t first)
+bool HasNoLoads(const LoadNumbers& loads, const LoadSlots& slots)
 {
-    return std::all_of(values.begin() + static_cast<std::ptrdiff_t>(first), values.end(),
-                       [](double value) { return value == 0; });
-}
-
-/// True when every point and partial load from these slots on is 0.
-bool NoLoadsFrom(const LoadNumbers& loads, SpanSlots first)
-{
-    return AllZeroFrom(loads.PT, first.Points) && AllZeroFrom(loads.LPT, first.Points) &&
-           AllZeroFrom(loads.PAR, first.Partials) && AllZeroFrom(loads.LPAR, first.Partials);
+    return AllZero(loads.PT, slots.Points) && AllZero(loads.LPT, slots.Points) &&
+           AllZero(loads.PAR, slots.Partials) && AllZero(loads.LPAR, slots.Partials);
 }
 
 Finding CheckAnyLoad(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
     const bool noUniform = beam.Loads.UNIF == 0 && beam.Loads.LUNIF == 0;
     const bool missing =
-        beam.IsContinuous() ? beam.Loads.UNIF == 0 : noUniform && NoLoadsFrom(beam.Loads, {0, 0});
+        beam.IsContinuous() ? beam.Loads.UNIF == 0 : noUniform && HasNoLoads(beam.Loads, AllSlots);
     return missing
                ? Finding(Refusal("At least one load must be specified for Kordavan to calculate a beam size.",
                                  "Span"))
@@ -174,11 +164,10 @@ Finding CheckAnyLoad(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 
 Finding CheckAnyOverhangLoad(const BeamProblem& /*problem*/, const BeamNumbers& beam)
 {
-    const bool missing = beam.IsOverhanging() && NoLoadsFrom(beam.Loads, SlotsOnSpan(beam.Support));
-    return missing ? Finding(Refusal(
-                         "At least one OVERHANGING load must be specified for Kordavan to calculate an "
-                         "overhanging beam.",
-                         "DIS[4]"))
+    const bool missing = beam.IsOverhanging() && HasNoLoads(beam.Loads, OverhangSlots);
+    return missing ? Finding(Refusal("At least one OVERHANGING load must be specified for Kordavan to "
+                                     "calculate an overhanging beam.",
+                                     "DIS[4]"))
                    : std::nullopt;
 }
 
@@ -207,16 +196,14 @@ Finding CheckDeflectionLimits(const BeamNumbers& beam)
         return Refusal(
             "Please enter a Maximum Allowable TOTAL Load (DL + LL) Deflection value.\n"
             "See help or click the deflection 'On Line Help' button, (the small gray square next to 'Max "
-            "Allowable "
-            "Deflection'), if you need acceptable values.",
+            "Allowable Deflection'), if you need acceptable values.",
             "MaxDefl");
     }
     if (!(beam.LMaxDefl > 0) && HasLiveLoad(beam.Loads)) {
         return Refusal(
             "Please enter a Maximum Allowable LIVE Load Deflection value.\n"
             "See help or click the 'On Line Help' button, (the small gray square next to 'Max Allowable "
-            "Deflection'), if "
-            "you need acceptable values.",
+            "Deflection'), if you need acceptable values.",
             "LMaxDefl");
     }
     return std::nullopt;

@@ -19,6 +19,12 @@ struct OwnValue {
     std::string_view Box;
 };
 
+float FiniteValue(const std::string& text)
+{
+    const float value = Single(Val(text));
+    return std::isfinite(value) ? value : 0;
+}
+
 std::int16_t WholePsi(double value)
 {
     constexpr double most = std::numeric_limits<std::int16_t>::max();
@@ -30,10 +36,10 @@ std::int16_t WholePsi(double value)
 
 DesignValues ReadCustomValues(const CustomEntry& custom)
 {
-    return {.Fb = Single(Val(custom.Fb)),
-            .Fv = Single(Val(custom.Fv)),
+    return {.Fb = FiniteValue(custom.Fb),
+            .Fv = FiniteValue(custom.Fv),
             .FcPerp = WholePsi(Val(custom.FcPerp)),
-            .E = Single(Val(custom.E))};
+            .E = FiniteValue(custom.E)};
 }
 
 Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user)

@@ -8,7 +8,8 @@
 
 namespace kordavan {
 
-/// The user's own values as numbers; Fc-perp rounded to a whole psi, and 0 when it is beyond 16 bits.
+/// The user's own values as numbers, Fc-perp rounded to a whole psi; 0 for one that is beyond a 32-bit float,
+/// for Fc-perp beyond 16 bits.
 DesignValues ReadCustomValues(const CustomEntry& custom);
 
 /// Refuses values of zero or less, each with the box to fill; members of listed values have none to check.

@@ -27,8 +27,8 @@ std::optional<Message> LiveAboveTotal(const LoadNumbers& loads)
     for (std::size_t k = 0; k < PartialSlotCount; ++k) {
         if (loads.LPAR[k] > loads.PAR[k]) {
             return AttentionRefusal(
-                "A live partial uniform load is larger than a partial uniform total load.  Please "
-                "re-check your load entries.",
+                "A live partial uniform load is larger than a partial uniform total load.  Please re-check "
+                "your load entries.",
                 BoxName("PAR", k));
         }
     }

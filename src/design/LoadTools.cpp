@@ -17,12 +17,10 @@ constexpr std::string_view NumbersTooLarge = "The numbers entered are too large 
 
 constexpr std::string_view SpanReplaced =
     "The Span Auto-calc feature is currently selected. Kordavan is replacing your previous Span entry with "
-    "our "
-    "calculated Span...";
+    "our calculated Span...";
 constexpr std::string_view NoAreaSelected =
     " Please select at least one 'area' on roof plan diagram to be include in the area calculation. The "
-    "white "
-    "squares are checkboxes and at least one must be 'checked'.";
+    "white squares are checkboxes and at least one must be 'checked'.";
 
 /// Total of the triangular load times this, over the span, is the uniform load of equal moment.
 constexpr double EquivalentUniformFactor = 1.0264;
@@ -34,11 +32,9 @@ Outcome CheckHipEntries(const BeamProblem& problem, UserPort& user)
         return Refuse(user, Refusal("Please enter a total (Live + Dead) load in PSF.", "IncTL"));
     }
     if (problem.Roofbutton && Val(loads.IncLL) == 0) {
-        return Refuse(
-            user,
-            Refusal("The Roof Slope Adjustment is checked. Please enter the Live Load in PSF so Kordavan "
-                    "can complete the calculation.",
-                    "IncLL"));
+        return Refuse(user, Refusal("The Roof Slope Adjustment is checked. Please enter the Live Load in PSF "
+                                    "so Kordavan can complete the calculation.",
+                                    "IncLL"));
     }
     if (Val(loads.Trib1) <= 0 || Val(loads.Trib2) <= 0) {
         return Refuse(
@@ -130,11 +126,9 @@ Outcome MultiplyTributary(BeamProblem& problem, UserPort& user)
         return Refuse(user, Refusal(" Please enter a total load (LL+DL) in PSF.", "Text2"));
     }
     if (total < live) {
-        return Refuse(
-            user,
-            Refusal("Your Live Load entry is greater than your total load (LL+DL) entry.  Please adjust "
-                    "as necessary.",
-                    "Text2"));
+        return Refuse(user, Refusal("Your Live Load entry is greater than your total load (LL+DL) entry.  "
+                                    "Please adjust as necessary.",
+                                    "Text2"));
     }
     if (!std::isfinite(total * length)) {
         return Refuse(user, Refusal(NumbersTooLarge, "Tribute"));
@@ -172,12 +166,15 @@ void ClearPartialCalculator(BeamProblem& problem)
 {
     problem.Loads.PSF = {};
     problem.Loads.LPSF = {};
-    problem.Loads.TribPSF = {};
+    problem.Loads.TribPSF.fill("0");
 }
 
 Outcome CalculateHipValley(Session& session, UserPort& user)
 {
     BeamProblem& problem = session.Problem;
+    if (session.Restore.HipLoadsGrown) {
+        return Outcome::Refused;
+    }
     if (CheckHipEntries(problem, user) != Outcome::Done || SettleHipSpan(problem, user) != Outcome::Done) {
         return Outcome::Refused;
     }

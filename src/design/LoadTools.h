@@ -13,13 +13,14 @@ Outcome MultiplyTributary(BeamProblem& problem, UserPort& user);
 /// number is refused with nothing changed.
 Outcome InsertPartialLoads(BeamProblem& problem, UserPort& user);
 
-/// Empties every box of the partial load calculator.
+/// Clears the partial load calculator: its load boxes are emptied, its lengths read "0".
 void ClearPartialCalculator(BeamProblem& problem);
 
 /// Hips and valleys: the triangular load of the plan quarters as an equivalent uniform load in UNIF and
 /// LUNIF, which stands for its moment, shear and deflection; the reactions keep the triangular law.
 ///
-/// With slope adjustment the dead part of the roof loads grows, and is to be put back before another run.
+/// With slope adjustment the dead part of the roof loads grows; until it is put back the tool does nothing
+/// more, as its button is off.
 /// A refusal leaves everything as it was, save a span already written by Span Auto-Calc.
 Outcome CalculateHipValley(Session& session, UserPort& user);
 

@@ -13,25 +13,19 @@ namespace {
 
 constexpr std::string_view BadBreadth =
     "Please enter a valid numeric BREADTH in the same format as shown on the 'quick pick' button headings "
-    "below.  "
-    "Include spaces, if any, and a hyphen before fractions (example: 3-1/2x) and an 'x' immediately "
-    "following the "
-    "breadth.\n"
+    "below.  Include spaces, if any, and a hyphen before fractions (example: 3-1/2x) and an 'x' immediately "
+    "following the breadth.\n"
     "NOTE: Custom Timber nominal breadths and depths may be entered in half inch increments using the CUSTOM "
-    "VALUES "
-    "form.";
+    "VALUES form.";
 
 constexpr std::string_view BadSpecies =
     "Please enter a Species and Grade in exactly the same format as shown on the 'quick pick' button "
-    "side-headings "
-    "below.  Include any spaces between words and numbers.";
+    "side-headings below.  Include any spaces between words and numbers.";
 
 constexpr std::string_view BadDepth =
     "Please enter a valid numeric DEPTH in the same format as shown on the 'quick pick' buttons.  Your entry "
-    "must "
-    "also be a beam size in the Kordavan database.  Please enter NOMINAL lumber sizes for solid sawn lumber "
-    "and "
-    "timbers.\n"
+    "must also be a beam size in the Kordavan database.  Please enter NOMINAL lumber sizes for solid sawn "
+    "lumber and timbers.\n"
     "2xs and 3xs:  4 to 14 in. (2 in. increments)\n"
     "4xs:  4 to 16 in. (2 in. increments)\n"
     "5x+:  6 to 16 in. (2 in. increments)\n"

@@ -101,7 +101,7 @@ std::string GlulamDeadDeflection(float deflection)
         return " for creep)= is <0.01   Recommended Camber is < .015";
     }
     return " for creep)= is " + FormatNumber(deflection, "0.#0") + "   Recommended Camber is " +
-           FormatNumber(CamberFactor * deflection, "0.#0");
+           FormatNumber(Single(CamberFactor * deflection), "0.#0");
 }
 
 std::string SawnDeadDeflection(float deflection)
@@ -141,12 +141,11 @@ std::string ModifiersText(const ReportSource& source)
 
 std::string NoSplitText(const MemberTestResult& result)
 {
-    return result.NoSplits
-               ? "Note:  This beam fails in shear unless specified to have NO SPLITS.  If this option is "
-                 "acceptable to you, Kordavan will automatically adjust the Shear Stress factor, Ch, from "
-                 "1.0 to 2.0 and the Data Record will show this beam as acceptable with NO SPLITS. "
-                 "Otherwise, you will need to select a different beam."
-               : std::string{};
+    return result.NoSplits ? "Note:  This beam fails in shear unless specified to have NO SPLITS.  If this "
+                             "option is acceptable to you, Kordavan will automatically adjust the Shear "
+                             "Stress factor, Ch, from 1.0 to 2.0 and the Data Record will show this beam as "
+                             "acceptable with NO SPLITS. Otherwise, you will need to select a different beam."
+                           : std::string{};
 }
 
 std::string SmallChoiceText(const ReportSource& source)
@@ -180,10 +179,9 @@ std::string LargeDeflectionText(const MemberTestResult& result)
     const bool isLarge = std::any_of(deflections.begin(), deflections.end(),
                                      [](float deflection) { return std::abs(deflection) > alertAbove; });
     const bool anyFailed = result.Overall == StatusFail;
-    return isLarge && !anyFailed
-               ? "A Courtesy Alert:  Deflection is greater than 1/3 inch.  It's your judgement call if "
-                 "this is acceptable..."
-               : std::string{};
+    return isLarge && !anyFailed ? "A Courtesy Alert:  Deflection is greater than 1/3 inch.  It's your "
+                                   "judgement call if this is acceptable..."
+                                 : std::string{};
 }
 
 std::string UnbalancedText(const BeamNumbers& beam)

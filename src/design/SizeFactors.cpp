@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "analysis/SectionProps.h"
 #include "core/NumberText.h"
 
 namespace kordavan {
@@ -117,8 +118,7 @@ float RoundSizeFactor(double diameter)
     if (diameter <= mostWithoutFactor) {
         return 1;
     }
-    constexpr double circleArea = 0.7854;
-    return std::min(1.0F, TimberSizeFactor(std::sqrt(circleArea * diameter * diameter)));
+    return std::min(1.0F, TimberSizeFactor(std::sqrt(CircleAreaFactor * diameter * diameter)));
 }
 
 }  // namespace kordavan

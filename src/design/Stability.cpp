@@ -77,26 +77,21 @@ double LengthOf(const EffectiveLength& rule, LengthBand band, double lu, double 
     return rule.MediumFactor * lu + 3 * d;
 }
 
-template <typename Values>
-bool AllZero(const Values& values)
-{
-    return std::all_of(values.begin(), values.end(), [](double value) { return value == 0; });
-}
-
 const EffectiveLength& SpanRule(const LoadNumbers& loads)
 {
-    const bool uniformOnly = loads.UNIF != 0 && AllZero(loads.PT) && AllZero(loads.PAR);
+    const bool uniformOnly =
+        loads.UNIF != 0 && AllZero(loads.PT, AllSlots.Points) && AllZero(loads.PAR, AllSlots.Partials);
     return uniformOnly ? SpanUniform : AnyOtherLoad;
 }
 
-bool IsUniformOverhang(const LoadNumbers& loads, double overhangFt)
+bool IsUniformOverhang(const LoadNumbers& loads, double overhang)
 {
     if (loads.PT[4] != 0 || loads.PT[5] != 0) {
         return false;
     }
     const bool both = loads.PAR[3] != 0 && loads.PAR[4] != 0;
     if (both) {
-        return loads.ENDP[3] == loads.ENDP[4] && loads.ENDP[3] == overhangFt;
+        return loads.ENDP[3] == loads.ENDP[4] && loads.ENDP[3] == overhang;
     }
     return loads.PAR[3] != 0 || loads.PAR[4] != 0;
 }
@@ -138,9 +133,8 @@ float StabilityFactor(double A)
 
 void ApplyBuckling(const StabilityInput& input, double coefficient, double Rb, SlendernessResult& result)
 {
-    constexpr double psiPerMillion = 1e6;
     result.KbE = Single(coefficient);
-    result.FbE = Single(input.EAdj * psiPerMillion * coefficient / (Rb * Rb));
+    result.FbE = Single(input.EAdj * PsiPerMillion * coefficient / (Rb * Rb));
     result.FbEOverFbStar = Single(result.FbE / input.FbStar);
     result.CL = StabilityFactor(result.FbE / input.FbStar);
 }
@@ -216,7 +210,7 @@ private:
 
     const EffectiveLength& OverhangRule()
     {
-        const bool uniform = IsUniformOverhang(beam.Loads, input.OverhangFt);
+        const bool uniform = IsUniformOverhang(beam.Loads, beam.Overhang);
         const bool point = IsPointOverhang(beam.Loads);
         if (uniform && point) {
             user.Tell(Alert(texts.OverhangMaximum));

@@ -34,7 +34,6 @@ struct StabilityInput {
     BucklingClass Class = BucklingClass::VisuallyGraded;
     double EAdj = 0;    // millions of psi
     double FbStar = 0;  // psi, above 0
-    double OverhangFt = 0;
     StabilityRun Run = StabilityRun::Candidate;
 };
 

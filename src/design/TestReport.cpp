@@ -18,7 +18,7 @@ constexpr std::string_view OverhangFormat = "0.00";
 /// What is used over what is allowed, in whole per cent, rounded: a member just over its limit shows "100%".
 std::string PercentText(double used, double allowed)
 {
-    return allowed == 0 ? std::string{} : FormatNumber(100 * used / allowed, "#0") + "%";
+    return allowed == 0 ? std::string{} : FormatNumber(Single(100 * used / allowed), "#0") + "%";
 }
 
 /// The four texts of a row, by their places in the report.

@@ -26,11 +26,6 @@ struct LoadBoxes {
 
 using PartOfBeam = std::vector<LoadBoxes>;
 
-struct SlotRange {
-    std::size_t First;
-    std::size_t End;
-};
-
 void AddPoints(Session& session, SlotRange slots, PartOfBeam& part)
 {
     LoadSet& loads = session.Problem.Loads;
@@ -50,8 +45,8 @@ void AddPartials(Session& session, SlotRange slots, PartOfBeam& part)
 PartOfBeam OverhangOf(Session& session)
 {
     PartOfBeam part;
-    AddPoints(session, {FirstOverhangPoint, PointSlotCount}, part);
-    AddPartials(session, {FirstOverhangPartial, PartialSlotCount}, part);
+    AddPoints(session, OverhangSlots.Points, part);
+    AddPartials(session, OverhangSlots.Partials, part);
     return part;
 }
 
@@ -59,8 +54,8 @@ PartOfBeam BackspanOf(Session& session)
 {
     LoadSet& loads = session.Problem.Loads;
     PartOfBeam part{{&loads.UNIF, &loads.LUNIF, &session.Unbalanced.SavedLiveUniform}};
-    AddPoints(session, {0, FirstOverhangPoint}, part);
-    AddPartials(session, {0, FirstOverhangPartial}, part);
+    AddPoints(session, BackspanSlots.Points, part);
+    AddPartials(session, BackspanSlots.Partials, part);
     return part;
 }
 

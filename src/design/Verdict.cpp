@@ -77,7 +77,7 @@ std::string_view OverallOf(const MemberTestResult& result)
 
 }  // namespace
 
-MemberTestResult ResultOf(const AnalysisResult& analysis, const MemberTest& member, bool nextSmallerOk)
+MemberTestResult ResultOf(const AnalysisResult& analysis, const MemberTest& member)
 {
     MemberTestResult result;
     result.SectionReq = analysis.SectionRequired;
@@ -102,7 +102,6 @@ MemberTestResult ResultOf(const AnalysisResult& analysis, const MemberTest& memb
     result.MaxMoment = analysis.MaxMomentFtLb;
     result.OverhangMoment = analysis.OverhangMomentTotal;
     result.TotalLoad = analysis.TotalLoadWithSelf;
-    result.NextSmallerOk = nextSmallerOk;
     return result;
 }
 

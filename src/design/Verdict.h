@@ -7,7 +7,7 @@
 namespace kordavan {
 
 /// The figures of a test from its analysis, without statuses.
-MemberTestResult ResultOf(const AnalysisResult& analysis, const MemberTest& member, bool nextSmallerOk);
+MemberTestResult ResultOf(const AnalysisResult& analysis, const MemberTest& member);
 
 /// Sets the statuses of all checks and of the whole. Figures are compared unrounded and pass on equality.
 /// Under NDS 1997 a sawn member that fails in shear alone may pass when free of splits (Ch of 2).

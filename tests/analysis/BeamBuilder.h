@@ -20,6 +20,7 @@ inline void SetPoint(BeamNumbers& beam, std::size_t slot, double load, double pl
     beam.Loads.PT[slot] = load;
     beam.Loads.LPT[slot] = live;
     beam.Loads.DIS[slot] = place;
+    beam.Overhang = beam.IsOverhanging() ? OverhangLength(beam.Loads) : 0;
 }
 
 inline void SetPartial(BeamNumbers& beam, std::size_t slot, double load, double begin, double end,
@@ -29,6 +30,7 @@ inline void SetPartial(BeamNumbers& beam, std::size_t slot, double load, double 
     beam.Loads.LPAR[slot] = live;
     beam.Loads.BEGP[slot] = begin;
     beam.Loads.ENDP[slot] = end;
+    beam.Overhang = beam.IsOverhanging() ? OverhangLength(beam.Loads) : 0;
 }
 
 }  // namespace kordavan

@@ -177,6 +177,21 @@ TEST(TipDeflection, PartialLoadsAreTheSumsOfTheirStrips)
     ExpectWithin(result.TotalDeflIn, (0.013 * 1728000 * equivalent - spanLift) / EI, 1e-5);
 }
 
+TEST(TipDeflection, StationAtTheVeryEndOfALoadDoesNotCountHoweverItsDecimalsRound)
+{
+    BeamNumbers beam = OverhangingBeam();
+    SetPartial(beam, 3, 100, 0, 2.3);  // no 32-bit float is 2.3
+    const double c = 27.6;             // in.
+    double drop = 0;
+    for (int i = 1; i <= 99; ++i) {
+        const double t = c * i / 100;
+        drop += t * t * c / 3 * (c - t);  // 100 plf * c / 100
+    }
+    ExpectWithin(DeflectionOf(beam).TipDeflIn, drop / EI, 1e-5);
+    // Span lift: sum of t = 4950 c / 100
+    ExpectWithin(DeflectionOf(beam).TotalDeflIn, -14400 * 2.3 * 49.5 * c * 0.06415 / EI, 1e-5);
+}
+
 TEST(TipDeflection, SelfWeightActsOnBothSides)
 {
     BeamNumbers beam = OverhangingBeam();

@@ -24,12 +24,14 @@ TEST_P(StationPlaceTest, CountsAStationOnThePlaceOnNeitherSide)
     EXPECT_EQ(line.LastBefore(c.Place), c.LastBefore);
 }
 
-// 14 ft in 200 steps of 0.07 ft: 100 * 0.07 is more than 7 in binary, and yet station 100 stands at 7 ft.
+// 14 ft in 200 steps of 0.07 ft: 100 * 0.07 is more than 7 in binary, and yet station 100 stands at 7 ft; 2.3
+// * 200 is less than 46 * 10.
 INSTANTIATE_TEST_SUITE_P(Places, StationPlaceTest,
                          testing::Values(PlaceCase{14, 7, 101, 99}, PlaceCase{14, 7.001, 101, 100},
                                          PlaceCase{14, 6.999, 100, 99}, PlaceCase{14, 0, 1, -1},
                                          PlaceCase{14, 14, 201, 199}, PlaceCase{14, 20, 201, 200},
                                          PlaceCase{0.3, 0.0015, 2, 0}, PlaceCase{10, 0.7, 15, 13},
+                                         PlaceCase{10, 2.3, 47, 45}, PlaceCase{14, 4.9, 71, 69},
                                          PlaceCase{16, 1e300, 201, 200}),
                          CaseName);
 

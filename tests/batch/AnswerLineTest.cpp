@@ -135,6 +135,11 @@ TEST(HipValleyTask, GivesTheCriteriaAsTheyStand)
     EXPECT_EQ(answer["criteria"]["IncreasingTotalLoad"].GetDouble(), 1920);
     EXPECT_NEAR(answer["criteria"]["UNIF"].GetDouble(), 197.0688, 1e-4);  // 1920 * 1.0264 / 10
     EXPECT_EQ(answer["criteria"]["LUNIF"].GetDouble(), 0);
+    EXPECT_TRUE(answer["criteria"]["Areas"][3].GetBool());
+    EXPECT_TRUE(answer["criteria"]["IncButton"].GetBool());
+    EXPECT_FALSE(answer["criteria"]["TwoSpan"].GetBool());
+    EXPECT_EQ(answer["criteria"]["PT"].Size(), 6U);
+    EXPECT_EQ(answer["criteria"]["MaxDefl"].GetDouble(), 240);
 }
 
 TEST(Answers, ReadBackTheSameFloat)
@@ -147,6 +152,8 @@ TEST(Answers, GiveBackAnyId)
 {
     EXPECT_THAT(Answer(R"({"id":{"a":[1,null,"é"]},"task":"beam"})"),
                 StartsWith(R"({"id":{"a":[1,null,"é"]},)"));
+    EXPECT_THAT(Answer(R"({"id":"\ud83d\ude00 \\udc00","task":"beam"})"),
+                StartsWith("{\"id\":\"\xF0\x9F\x98\x80 \\\\udc00\","));
     EXPECT_THAT(Answer(R"({"id":"x","task":"none"})"), StartsWith(R"({"id":"x","status":"invalid")"));
 }
 
@@ -199,6 +206,9 @@ INSTANTIATE_TEST_SUITE_P(
         InvalidCase{R"({"task":"beam","member":{"Fb":1}})",
                     "member.Fb: no such field in this material group"},
         InvalidCase{R"({"task":"beam","criteria":{"Span":1e999}})", "not JSON: Number too big"},
+        InvalidCase{R"({"task":"beam","id":"\udc00"})", "not JSON: a character that is no text"},
+        InvalidCase{R"({"task":"beam","id":"\ud800"})", "not JSON: "},
+        InvalidCase{std::string_view("{\"task\":\"beam\"}\0{", 17), "not JSON: a character that is no text"},
         InvalidCase{"{\"task\":\"b\xff\"}", "not JSON: Invalid encoding in string."}),
     CaseName);
 

@@ -14,15 +14,11 @@ using testing::IsEmpty;
 
 constexpr std::string_view OnlyDead =
     "Attention:  No live loads have been entered, therefore the Total Loads entered will be treated as only "
-    "Dead Load.\n"
-    "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical "
-    "load "
-    "combination.";
+    "Dead Load.\nYou should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the "
+    "critical load combination.";
 constexpr std::string_view LargeDead =
-    "Attention:  Your Dead Load is large relative to the total load.\n"
-    "You should check the Dead Load only with a Duration of Load set to 0.9 to see if it is the critical "
-    "load "
-    "combination.";
+    "Attention:  Your Dead Load is large relative to the total load.\nYou should check the Dead Load only "
+    "with a Duration of Load set to 0.9 to see if it is the critical load combination.";
 
 struct AlertCase {
     std::string_view Dur;
@@ -62,9 +58,9 @@ TEST(CalculateAction, AlertsToASlopeOverDeadLoadAlone)
     ScriptedUser user;
     EXPECT_EQ(CalculateAction(session, user), Outcome::Done);
     EXPECT_THAT(user.Told,
-                ElementsAre(AlertOf("Slope Adjustment is checked and no live loads are entered. All total "
-                                    "loads are assumed to be entirely Dead Loads and will be increased for "
-                                    "the slope of the roof.")));
+                ElementsAre(AlertOf(
+                    "Slope Adjustment is checked and no live loads are entered. All total loads are assumed "
+                    "to be entirely Dead Loads and will be increased for the slope of the roof.")));
 }
 
 TEST(CalculateAction, OffersToWorkOutAForgottenUniformLoad)
@@ -141,6 +137,27 @@ TEST(CalculateAction, RefusesWhatNoNumberCanHoldAndKeepsTheEntries)
     EXPECT_EQ(user.Told.back().Title, "Kordavan Error: Form 1");
     EXPECT_EQ(session.Problem.Loads.UNIF, "1e38");
     EXPECT_FALSE(session.Restore.LoadsMultipliedFlag);
+}
+
+TEST(CalculateAction, ARefusedCalculationKeepsTheOneBefore)
+{
+    Session session = PlainSession();
+    Calculate(session);
+    session.Problem.Loads.UNIF = "1e38";
+    session.Problem.Span = "1e20";
+    ScriptedUser user;
+    EXPECT_EQ(CalculateAction(session, user), Outcome::Refused);
+    EXPECT_EQ(session.Analysis.MaxMomentApplied, 1800);  // 100 * 144 / 8
+    EXPECT_EQ(session.Stations[StationColumn::Moment][100], 1800);
+}
+
+TEST(CalculateAction, BracesAContinuousBeamWhateverItsBoxesHold)
+{
+    Session session = PlainSession();
+    session.Problem.Support = SupportCondition::MultipleSpans;
+    session.Problem.UBLtext = "20";
+    Calculate(session);
+    EXPECT_EQ(session.Numbers.UBL, 0);
 }
 
 struct SpacingCase {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "design/CalculateAction.h"
-#include "design/MemberTest.h"
+#include "design/TestMember.h"
 #include "support/ScriptedUser.h"
 
 namespace kordavan {

@@ -40,14 +40,13 @@ TEST(MultiplyTributary, RefusesInItsOrder)
     problem.Loads.Text2 = "1e308";
     problem.Loads.Tribute = "1e308";
     EXPECT_EQ(MultiplyTributary(problem, user), Outcome::Refused);
-    EXPECT_THAT(
-        user.Told,
-        ElementsAre(RefusalOf(" Please enter a tributary length in feet.", "Tribute"),
-                    RefusalOf(" Please enter a total load (LL+DL) in PSF.", "Text2"),
-                    RefusalOf("Your Live Load entry is greater than your total load (LL+DL) entry.  Please "
-                              "adjust as necessary.",
-                              "Text2"),
-                    RefusalOf("The numbers entered are too large to be multiplied.", "Tribute")));
+    EXPECT_THAT(user.Told,
+                ElementsAre(RefusalOf(" Please enter a tributary length in feet.", "Tribute"),
+                            RefusalOf(" Please enter a total load (LL+DL) in PSF.", "Text2"),
+                            RefusalOf("Your Live Load entry is greater than your total load (LL+DL) entry.  "
+                                      "Please adjust as necessary.",
+                                      "Text2"),
+                            RefusalOf("The numbers entered are too large to be multiplied.", "Tribute")));
     EXPECT_EQ(problem.Loads.UNIF, "");
 }
 
@@ -66,7 +65,8 @@ TEST(InsertPartialLoads, PassesOverRowsWithoutALengthOrALoad)
     EXPECT_THAT(loads.LPAR, ElementsAre("80", "", "90", "", ""));
     EXPECT_THAT(user.Told, IsEmpty());
     ClearPartialCalculator(problem);
-    EXPECT_EQ(loads.PSF[0] + loads.LPSF[0] + loads.TribPSF[0], "");
+    EXPECT_EQ(loads.PSF[0] + loads.LPSF[0], "");
+    EXPECT_EQ(loads.TribPSF[0], "0");
 }
 
 Session HipSession()
@@ -166,6 +166,8 @@ TEST(HipValley, GrowsTheDeadLoadWithTheSlopeAndPutsItBackOnReturn)
     EXPECT_EQ(problem.Loads.IncUnifTL, "11.0");  // 6 + 4 * 1.25
     EXPECT_EQ(session.IncreasingTotalLoad, 2187.5F);
     EXPECT_TRUE(session.Restore.HipLoadsGrown);
+    EXPECT_EQ(CalculateHipValley(session, user), Outcome::Refused);  // nothing grows twice
+    EXPECT_EQ(problem.Loads.IncTL, "43.75");
     Calculate(session);
     EXPECT_NEAR(session.Analysis.R2Applied, 11 * 14.14 / 2 + 2 * 2187.5 / 3, 1e-3);
     RestoreEntries(session);
@@ -214,8 +216,7 @@ const HipRefusal HipRefusals[] = {
      "Please enter a Span or select the Span Auto-calc feature.", "Span"},
     {"no quarter", [](BeamProblem& p) { p.Loads.Areas = {}; },
      " Please select at least one 'area' on roof plan diagram to be include in the area calculation. The "
-     "white squares are "
-     "checkboxes and at least one must be 'checked'.",
+     "white squares are checkboxes and at least one must be 'checked'.",
      "Areas[0]"},
     {"beyond any number",
      [](BeamProblem& p) {

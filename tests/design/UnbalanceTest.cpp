@@ -36,11 +36,10 @@ TEST(Unbalance, TakesTheOverhangsLiveLoadsOutAndPutsThemBack)
     EXPECT_EQ(loads.LPT[4], "500");
     EXPECT_EQ(loads.PAR[3], "80");
     EXPECT_EQ(loads.LPAR[3], "50");
-    EXPECT_THAT(
-        user.Told,
-        ElementsAre(AlertOf("Live loads have been removed from Overhang.\nClick 'OK Calculate' to test "
-                            "member with these loads removed. Watch deflection at Backspan."),
-                    AlertOf("Live Loads on the Overhang have been restored.")));
+    EXPECT_THAT(user.Told,
+                ElementsAre(AlertOf("Live loads have been removed from Overhang.\nClick 'OK Calculate' to "
+                                    "test member with these loads removed. Watch deflection at Backspan."),
+                            AlertOf("Live Loads on the Overhang have been restored.")));
     EXPECT_EQ(user.Told[0].Title, "Kordavan Unbalanced Overhang");
 }
 

@@ -1,5 +1,7 @@
-#include "design/MemberTest.h"
+#include "design/TestMember.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <optional>
 
@@ -15,10 +17,8 @@ namespace kordavan {
 namespace {
 
 constexpr std::string_view RepetitiveNote =
-    "Please note:\n"
-    "GLB and 6x sizes do not qualify for Repetitive Use Values.  Please either 'unselect' the Repetitive Use "
-    "check "
-    "box on the Criteria Form or select a 4x or 2x combination beam breadth.";
+    "Please note:\nGLB and 6x sizes do not qualify for Repetitive Use Values.  Please either 'unselect' the "
+    "Repetitive Use check box on the Criteria Form or select a 4x or 2x combination beam breadth.";
 constexpr std::string_view DatabaseError = "Database search error in calc module";
 constexpr std::string_view ZeroValueError = "Calc module, zero value error!";
 constexpr std::string_view MaximumShearError = "Max V Error, LSMR OVERHANG MAX V";
@@ -99,7 +99,6 @@ Outcome AdjustSize(const TestCase& test, NetSize size, std::string_view depthTex
                                          .Class = BucklingClassOf(test),
                                          .EAdj = result.Adjusted.EAdj,
                                          .FbStar = result.Adjusted.FbStar,
-                                         .OverhangFt = test.Applied.OverhangFt,
                                          .Run = run},
                                         user);
     result.Factors.CL = result.Stability.Span.CL;
@@ -124,8 +123,7 @@ Outcome LoadSize(const TestCase& test, NetSize size, UserPort& user, SizeTest& r
     return Outcome::Done;
 }
 
-Outcome CompareDeflection(const TestCase& test, const SizeTest& size, UserPort& user,
-                          DeflectionResult& deflection)
+Outcome DeflectSize(const TestCase& test, const SizeTest& size, UserPort& user, DeflectionResult& deflection)
 {
     deflection = ComputeDeflection(test.Beam, size.Section, size.Adjusted.EAdj, test.Applied, size.Loads);
     if (IsFinite(deflection)) {
@@ -138,13 +136,12 @@ Outcome CompareDeflection(const TestCase& test, const SizeTest& size, UserPort& 
 
 bool IsFiniteTest(const SizeTest& size)
 {
-    const bool shearIsFinite = std::isfinite(size.Shear.SectionRequired) &&
-                               std::isfinite(size.Shear.ShearStressActual) &&
-                               std::isfinite(size.Shear.AreaRequired);
-    const bool stabilityIsFinite =
-        std::isfinite(size.Stability.Span.FbE) && std::isfinite(size.Stability.Overhang.FbE);
-    return shearIsFinite && stabilityIsFinite && std::isfinite(size.Section.I) &&
-           std::isfinite(size.Loads.TotalLoadWithSelf);
+    const std::array<double, 11> figures{
+        size.Adjusted.FbAdj,          size.Adjusted.FvAdj,         size.Adjusted.EAdj,
+        size.Stability.Span.FbE,      size.Stability.Overhang.FbE, size.Section.I,
+        size.Loads.TotalLoadWithSelf, size.Shear.SectionRequired,  size.Shear.ShearReduced,
+        size.Shear.ShearStressActual, size.Shear.AreaRequired};
+    return std::all_of(figures.begin(), figures.end(), [](double figure) { return std::isfinite(figure); });
 }
 
 /// True when the next smaller depth passes every check; its deflections are the candidate's, grown by the
@@ -197,6 +194,22 @@ Outcome CheckMember(const Session& session, const MemberEntry& entry, TestOption
     return Outcome::Done;
 }
 
+void StoreTest(const MemberCandidate& member, const SizeTest& size, const DeflectionResult& deflection,
+               Session& session)
+{
+    static_cast<CandidateLoadResult&>(session.Analysis) = size.Loads;
+    static_cast<ShearResult&>(session.Analysis) = size.Shear;
+    static_cast<DeflectionResult&>(session.Analysis) = deflection;
+    session.Member.Candidate = member;
+    session.Member.Values = size.Values;
+    session.Member.Factors = size.Factors;
+    session.Member.Stability = size.Stability;
+    session.Member.Adjusted = size.Adjusted;
+    session.Member.Section = size.Section;
+    session.Member.Result = ResultOf(session.Analysis, session.Member);
+    GiveVerdict(session.Numbers, session.Member);
+}
+
 }  // namespace
 
 Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions options, UserPort& user)
@@ -206,13 +219,14 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     if (CheckMember(session, entry, options, user, member) != Outcome::Done) {
         return Outcome::Refused;
     }
-    TestCase test{.Beam = beam, .Applied = session.Analysis, .Member = member};
-    test.SoPineLowered = RenewSoPineLowered(session.SoPineLowered, member.SpeciesText, beam.Nds);
+    TestCase test{
+        .Beam = beam, .Applied = session.Analysis, .Member = member, .SoPineLowered = session.SoPineLowered};
     if (beam.Group == SpeciesGroup::Custom) {
         test.Traits = TraitsOf(entry.Custom);
         test.Own = ReadCustomValues(entry.Custom);
     } else {
         test.Species = FindSpecies(member.BreadthKey, member.SpeciesText);
+        test.SoPineLowered = RenewSoPineLowered(session.SoPineLowered, member.SpeciesText, beam.Nds);
     }
 
     const NetSize size{.B = member.B, .D = member.D};
@@ -223,7 +237,7 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
         return Outcome::Refused;
     }
     DeflectionResult deflection;
-    if (CompareDeflection(test, candidate, user, deflection) != Outcome::Done) {
+    if (DeflectSize(test, candidate, user, deflection) != Outcome::Done) {
         return Outcome::Refused;
     }
     if (!IsFiniteTest(candidate)) {
@@ -232,17 +246,8 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     const bool nextSmallerOk = TestNextSmaller(test, deflection, user, candidate);
 
     session.SoPineLowered = test.SoPineLowered;
-    static_cast<CandidateLoadResult&>(session.Analysis) = candidate.Loads;
-    static_cast<ShearResult&>(session.Analysis) = candidate.Shear;
-    static_cast<DeflectionResult&>(session.Analysis) = deflection;
-    session.Member.Candidate = member;
-    session.Member.Values = candidate.Values;
-    session.Member.Factors = candidate.Factors;
-    session.Member.Stability = candidate.Stability;
-    session.Member.Adjusted = candidate.Adjusted;
-    session.Member.Section = candidate.Section;
-    session.Member.Result = ResultOf(session.Analysis, session.Member, nextSmallerOk);
-    GiveVerdict(beam, session.Member);
+    StoreTest(member, candidate, deflection, session);
+    session.Member.Result.NextSmallerOk = nextSmallerOk;
     return Outcome::Done;
 }
 
