@@ -64,6 +64,20 @@ void AnswerHipValley(const JsonValue& request, const JsonValue* id, AnswerWriter
     answer.EndObject();
 }
 
+void AnswerSelection(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
+{
+    BeamRun run;
+    const bool isDone = RunSelection(request, run) == Outcome::Done;
+    const QuickPicks picks = isDone ? FindQuickPicks(run.Work, run.User) : QuickPicks{};
+    answer.BeginObject();
+    WriteOutcome(id, run.User, isDone, answer);
+    if (isDone) {
+        WriteQuickPicks(picks, answer);
+        WriteSelectionLabels(MakeSelectionTexts(run.Work), answer);
+    }
+    answer.EndObject();
+}
+
 using Task = void (*)(const JsonValue&, const JsonValue*, AnswerWriter&);
 
 struct TaskRow {
@@ -74,6 +88,7 @@ struct TaskRow {
 constexpr std::array Tasks{
     TaskRow{"beam", AnswerBeam},
     TaskRow{"hip-valley", AnswerHipValley},
+    TaskRow{"select", AnswerSelection},
 };
 
 Task FindTask(std::string_view name)

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <variant>
 
-#include "batch/CriteriaFields.h"
+#include "core/CriteriaFields.h"
 #include "core/EntryRules.h"
 #include "core/NumberText.h"
 #include "design/TestReport.h"
@@ -353,6 +353,39 @@ void WriteReport(const Session& session, AnswerWriter& answer)
     for (const TestReportField& field : TestReportFields) {
         answer.Field(field.Name, std::string_view(report.*field.Text));
     }
+    answer.EndObject();
+}
+
+void WriteQuickPicks(const QuickPicks& picks, AnswerWriter& answer)
+{
+    answer.BeginArray("picks");
+    for (const QuickPick& pick : picks) {
+        if (pick.DepthText.empty()) {
+            continue;
+        }
+        answer.BeginObject();
+        answer.Field("BreadthText", pick.BreadthText);
+        answer.Field("DepthText", std::string_view(pick.DepthText));
+        answer.Field("SpeciesText", pick.SpeciesText);
+        answer.EndObject();
+    }
+    answer.EndArray();
+}
+
+void WriteSelectionLabels(const SelectionTexts& texts, AnswerWriter& answer)
+{
+    constexpr std::array<std::string_view, 5> headNames{"Label13", "Label14", "Label15", "Label16",
+                                                        "Label17"};
+    answer.BeginObject("labels");
+    answer.Field("LabelINGRADE", std::string_view(texts.LabelINGRADE));
+    answer.Field("MOMENT", std::string_view(texts.MOMENT));
+    answer.Field("Reac1", std::string_view(texts.Reac1));
+    answer.Field("Reac2", std::string_view(texts.Reac2));
+    for (std::size_t k = 0; k < headNames.size(); ++k) {
+        answer.Field(headNames[k], texts.GlulamHeads[k]);
+    }
+    answer.Field("RepQualify", std::string_view(texts.RepQualify));
+    answer.Field("WoodStatisPanel", std::string_view(texts.WoodStatisPanel));
     answer.EndObject();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "batch/AnswerWriter.h"
+#include "design/QuickPicks.h"
 #include "design/Session.h"
 
 namespace kordavan {
@@ -17,6 +18,12 @@ void WriteMemberTest(const MemberTest& member, AnswerWriter& answer);
 
 /// Every text of the test report.
 void WriteReport(const Session& session, AnswerWriter& answer);
+
+/// The quick picks that hold a depth, in their order.
+void WriteQuickPicks(const QuickPicks& picks, AnswerWriter& answer);
+
+/// The texts of the wood selection screen.
+void WriteSelectionLabels(const SelectionTexts& texts, AnswerWriter& answer);
 
 /// The criteria as they stand after the hips and valleys tool, as numbers.
 void WriteHipValley(const Session& session, AnswerWriter& answer);

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::array<std::string_view, 7> BeamFields{"task",   "id",     "edition", "criteria",
                                                      "member", "answer", "stations"};
-constexpr std::array<std::string_view, 5> HipValleyFields{"task", "id", "edition", "criteria", "answer"};
+constexpr std::array<std::string_view, 5> CriteriaTaskFields{"task", "id", "edition", "criteria", "answer"};
 
 void RefuseUnknownFields(const JsonValue& request, std::span<const std::string_view> known)
 {
@@ -81,6 +81,11 @@ Outcome PrepareHipValley(BeamRun& run)
     return isNeeded ? CalculateHipValley(run.Work, run.User) : Outcome::Done;
 }
 
+Outcome Calculate(BeamRun& run)
+{
+    return PrepareHipValley(run) == Outcome::Done ? CalculateAction(run.Work, run.User) : Outcome::Refused;
+}
+
 }  // namespace
 
 void RunBeam(const JsonValue& request, BeamRun& run)
@@ -95,18 +100,28 @@ void RunBeam(const JsonValue& request, BeamRun& run)
         run.HasMember = true;
         ReadMember(*member, FieldPath("member"), run.Work.Problem.Combo1, entry);
     }
-    if (PrepareHipValley(run) != Outcome::Done || CalculateAction(run.Work, run.User) != Outcome::Done) {
+    run.Analysed = Calculate(run) == Outcome::Done;
+    if (!run.Analysed) {
         return;
     }
-    run.Analysed = true;
     run.Tested = run.HasMember && TestMember(run.Work, entry, {}, run.User) == Outcome::Done;
 }
 
 Outcome RunHipValley(const JsonValue& request, BeamRun& run)
 {
-    RefuseUnknownFields(request, HipValleyFields);
+    RefuseUnknownFields(request, CriteriaTaskFields);
     ReadProblem(request, run);
     return CalculateHipValley(run.Work, run.User);
+}
+
+Outcome RunSelection(const JsonValue& request, BeamRun& run)
+{
+    RefuseUnknownFields(request, CriteriaTaskFields);
+    ReadProblem(request, run);
+    if (run.Work.Problem.Combo1 >= SpeciesGroup::Scl) {
+        FieldPath("criteria").Field("Combo1").Fail("a species group (0 to 6) is expected");
+    }
+    return Calculate(run);
 }
 
 std::string_view TaskOf(const JsonValue& request)

@@ -21,6 +21,9 @@ struct BeamRun {
 /// Runs the calculate action and, with a member, its test. Throws InvalidRequest.
 void RunBeam(const JsonValue& request, BeamRun& run);
 
+/// Runs the calculate action alone, for a species group. Throws InvalidRequest.
+Outcome RunSelection(const JsonValue& request, BeamRun& run);
+
 /// Runs the hips and valleys tool alone. Throws InvalidRequest.
 Outcome RunHipValley(const JsonValue& request, BeamRun& run);
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <variant>
 
-#include "batch/CriteriaFields.h"
+#include "core/CriteriaFields.h"
 #include "core/EntryRules.h"
 
 namespace kordavan {

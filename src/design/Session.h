@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 
 #include "analysis/AnalysisResult.h"
@@ -9,6 +11,7 @@
 #include "core/BeamProblem.h"
 #include "core/NdsEdition.h"
 #include "design/MemberTestResult.h"
+#include "design/SelectionRecord.h"
 
 namespace kordavan {
 
@@ -31,6 +34,12 @@ struct UnbalancedLoads {
     PartialTexts SavedLivePartial;
 };
 
+inline constexpr std::size_t ReportNoteCount = 7;
+inline constexpr std::size_t ReportNoteLength = 85;
+
+/// Notes of the person's own for the foot of a record.
+using ReportNoteLines = std::array<std::string, ReportNoteCount>;
+
 /// One beam at work, from its entries to the member tested last.
 struct Session {
     BeamProblem Problem;
@@ -47,6 +56,9 @@ struct Session {
 
     bool SoPineLowered = false;  // left by the last test of a #2 Southern Pine
     MemberTest Member;
+
+    std::optional<SelectionRecord> Selection;  // withdrawn by every change of the entries
+    ReportNoteLines ReportNotes;
 };
 
 }  // namespace kordavan

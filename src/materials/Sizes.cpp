@@ -166,6 +166,11 @@ std::span<const LadderStep> LadderOf(SizeFamily family, BreadthKey key)
     return {};
 }
 
+bool IsWiderThanDeep(const Breadth& breadth, const LadderStep& step)
+{
+    return breadth.Key == BreadthKey::SixBy && step.Net < breadth.Net;
+}
+
 }  // namespace
 
 std::string_view KeyText(BreadthKey key)
@@ -207,13 +212,23 @@ std::optional<Depth> FindDepth(SizeFamily family, const Breadth& breadth, std::s
     }
     if (at >= stride) {
         const LadderStep& smaller = ladder[at - stride];
-        const bool belowBreadth = breadth.Key == BreadthKey::SixBy && smaller.Net < breadth.Net;
-        if (!belowBreadth) {
+        if (!IsWiderThanDeep(breadth, smaller)) {
             depth.NextSmaller = smaller.Net;
             depth.NextSmallerText = smaller.Text.View();
         }
     }
     return depth;
+}
+
+std::vector<DepthChoice> DepthsOf(SizeFamily family, const Breadth& breadth)
+{
+    std::vector<DepthChoice> depths;
+    for (const LadderStep& step : LadderOf(family, breadth.Key)) {
+        if (!IsWiderThanDeep(breadth, step)) {
+            depths.push_back({step.Text.View(), step.Net});
+        }
+    }
+    return depths;
 }
 
 }  // namespace kordavan

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace kordavan {
 
@@ -43,5 +44,14 @@ std::optional<Breadth> FindBreadth(SizeFamily family, std::string_view text);
 /// The depth written exactly so for a breadth of the family, with its neighbours, or none. A timber has no
 /// smaller neighbour below its own nominal breadth.
 std::optional<Depth> FindDepth(SizeFamily family, const Breadth& breadth, std::string_view text);
+
+/// A depth that a breadth can have.
+struct DepthChoice {
+    std::string_view Text;
+    double Net;  // in.
+};
+
+/// The depths of a breadth from small to large; those of a timber begin at its nominal breadth.
+std::vector<DepthChoice> DepthsOf(SizeFamily family, const Breadth& breadth);
 
 }  // namespace kordavan

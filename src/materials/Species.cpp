@@ -1,6 +1,7 @@
 #include "materials/Species.h"
 
 #include <algorithm>
+#include <string>
 
 namespace kordavan {
 
@@ -161,6 +162,8 @@ constexpr std::array PostRows{
     PostRow{"White Oak #2", 600},
 };
 
+constexpr std::string_view TimberSuffix = " SR";
+
 constexpr double DeepGlulamIn = 15;
 constexpr std::int16_t DeepGlulamFcPerp = 650;
 
@@ -177,6 +180,17 @@ const SpeciesRow* FindSpecies(BreadthKey key, std::string_view species)
         return row.Key == key && row.SpeciesName == species;
     });
     return found == Rows.end() ? nullptr : found;
+}
+
+const SpeciesRow* FindSpeciesForBreadth(BreadthKey key, std::string_view species)
+{
+    if (const SpeciesRow* const row = FindSpecies(key, species)) {
+        return row;
+    }
+    if (species.ends_with(TimberSuffix)) {
+        return FindSpecies(key, species.substr(0, species.size() - TimberSuffix.size()));
+    }
+    return FindSpecies(key, std::string(species) + std::string(TimberSuffix));
 }
 
 DesignValues ReferenceValues(const SpeciesRow& row, Edition edition, NetSize size)

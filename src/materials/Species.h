@@ -37,6 +37,10 @@ struct DesignValues {
 /// The row of a species and grade in a size class; the name must be written exactly so.
 const SpeciesRow* FindSpecies(BreadthKey key, std::string_view species);
 
+/// The same for a species named as in any class: Southern Pine timbers bear names of their own, "So. Pine #2
+/// SR" beside "So. Pine #2".
+const SpeciesRow* FindSpeciesForBreadth(BreadthKey key, std::string_view species);
+
 struct NetSize {
     double B;  // in.
     double D;  // in.

@@ -126,6 +126,21 @@ TEST(BeamTask, RunsTheHipToolWhereOnlyTheRoofLoadIsGiven)
     EXPECT_STREQ(refused["refusal"]["focus"].GetString(), "Trib1");
 }
 
+TEST(SelectTask, GivesTheFilledCellsAndTheTextsOfTheScreen)
+{
+    const auto answer =
+        ParsedAnswer(R"({"task":"select","criteria":{"Span":12,"UNIF":100,"LUNIF":60,"Combo1":5}})");
+    EXPECT_STREQ(answer["status"].GetString(), "done");
+    EXPECT_STREQ(answer["picks"][0]["BreadthText"].GetString(), "2x");
+    EXPECT_STREQ(answer["picks"][0]["SpeciesText"].GetString(), "Mixed So. Pine #2");
+    EXPECT_STREQ(answer["picks"][0]["DepthText"].GetString(), "12");
+    EXPECT_STREQ(answer["labels"]["Label16"].GetString(), "8-1/2x");
+    EXPECT_STREQ(answer["labels"]["MOMENT"].GetString(), "1,800 ft-lbs");
+    EXPECT_THAT(Answer(R"({"task":"select","criteria":{"Span":12,"UNIF":100,"Combo1":8}})"),
+                HasSubstr("criteria.Combo1: a species group"));
+    EXPECT_THAT(Answer(R"({"task":"select","criteria":{"Span":12}})"), HasSubstr("\"refused\""));
+}
+
 TEST(HipValleyTask, GivesTheCriteriaAsTheyStand)
 {
     const auto answer = ParsedAnswer(

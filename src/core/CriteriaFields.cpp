@@ -1,4 +1,4 @@
-#include "batch/CriteriaFields.h"
+#include "core/CriteriaFields.h"
 
 #include <algorithm>
 

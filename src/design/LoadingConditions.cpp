@@ -1,0 +1,164 @@
+#include "design/LoadingConditions.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "core/NumberText.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view FullyBraced = "0";
+
+void ClearHipLoads(LoadSet& loads)
+{
+    for (std::string* text :
+         {&loads.IncTL, &loads.IncLL, &loads.IncUnifTL, &loads.IncUnifLL, &loads.Trib1, &loads.Trib2}) {
+        text->clear();
+    }
+}
+
+void ClearUniformCalculator(LoadSet& loads)
+{
+    loads.Text1.clear();
+    loads.Text2.clear();
+    loads.Tribute.clear();
+}
+
+void ClearPartialCalculatorRows(LoadSet& loads)
+{
+    loads.PSF = {};
+    loads.LPSF = {};
+    loads.TribPSF = {};
+}
+
+void ForgetAdjustments(Session& session)
+{
+    session.Unbalanced = {};
+    session.Restore = {};
+}
+
+bool IsBlankPair(const LoadPair& pair)
+{
+    return Val(pair.Live) == 0 && Val(pair.Total) == 0;
+}
+
+bool IsSameLoad(std::string_view box, std::string_view of)
+{
+    return Val(box) == Val(of);
+}
+
+bool Matches(const LoadPair& boxes, const LoadPair& pair)
+{
+    const bool liveFits = boxes.Live.empty() || IsSameLoad(boxes.Live, pair.Live);
+    const bool totalFits = boxes.Total.empty() || IsSameLoad(boxes.Total, pair.Total);
+    return liveFits && totalFits;
+}
+
+}  // namespace
+
+void SwitchSupport(Session& session, SupportCondition support)
+{
+    BeamProblem& problem = session.Problem;
+    if (problem.Support == support) {
+        return;
+    }
+    const bool wasContinuous = problem.Support == SupportCondition::MultipleSpans;
+    problem.Support = support;
+    ForgetAdjustments(session);
+    ClearUniformLoad(problem.Loads);
+    ClearPointLoads(problem.Loads);
+    ClearPartialLoads(problem.Loads);
+    ClearPartialCalculatorRows(problem.Loads);
+    ClearHipLoads(problem.Loads);
+    problem.CantUBLtext.clear();
+    if (support == SupportCondition::MultipleSpans) {
+        problem.UBLtext = FullyBraced;
+        problem.CantUBLtext = FullyBraced;
+        problem.ThreeSpan = false;
+    } else if (wasContinuous) {
+        problem.UBLtext.clear();
+    }
+    if (support == SupportCondition::HipValley) {
+        ClearUniformCalculator(problem.Loads);
+    }
+}
+
+void StartNewBeam(Session& session)
+{
+    const BeamProblem& old = session.Problem;
+    BeamProblem fresh;
+    fresh.Combo1 = old.Combo1;
+    fresh.MaxDefl = old.MaxDefl;
+    fresh.LMaxDefl = old.LMaxDefl;
+    fresh.INGRADE = old.INGRADE;
+    fresh.Proj = old.Proj;
+    session.Problem = std::move(fresh);
+    session.Selection.reset();
+    session.IncreasingTotalLoad = 0;
+    session.IncreasingLiveLoad = 0;
+    ForgetAdjustments(session);
+}
+
+void ClearPointRow(LoadSet& loads, std::size_t slot)
+{
+    loads.PT[slot].clear();
+    loads.LPT[slot].clear();
+    loads.DIS[slot].clear();
+}
+
+void ClearPartialRow(LoadSet& loads, std::size_t slot)
+{
+    loads.PAR[slot].clear();
+    loads.LPAR[slot].clear();
+    loads.BEGP[slot].clear();
+    loads.ENDP[slot].clear();
+}
+
+void ClearUniformLoad(LoadSet& loads)
+{
+    loads.UNIF.clear();
+    loads.LUNIF.clear();
+}
+
+void ClearPointLoads(LoadSet& loads)
+{
+    for (std::size_t slot = 0; slot < PointSlotCount; ++slot) {
+        ClearPointRow(loads, slot);
+    }
+}
+
+void ClearPartialLoads(LoadSet& loads)
+{
+    for (std::size_t slot = 0; slot < PartialSlotCount; ++slot) {
+        ClearPartialRow(loads, slot);
+    }
+}
+
+std::string_view NextDuration(std::string_view text)
+{
+    constexpr std::array<std::string_view, 4> factors{"1.00", "1.15", "1.25", "0.90"};
+    const auto* const found = std::find(factors.begin(), factors.end(), text);
+    const bool hasNext = found != factors.end() && found + 1 != factors.end();
+    return hasNext ? *(found + 1) : factors.front();
+}
+
+LoadPair NextLoadPair(std::span<const LoadPair> pairs, const LoadPair& boxes)
+{
+    std::vector<LoadPair> cycle;
+    std::copy_if(pairs.begin(), pairs.end(), std::back_inserter(cycle),
+                 [](const LoadPair& pair) { return !IsBlankPair(pair); });
+    if (cycle.empty()) {
+        return boxes;
+    }
+    cycle.emplace_back();
+    if (IsBlankPair(boxes)) {
+        return cycle.front();
+    }
+    const auto found = std::find_if(cycle.begin(), cycle.end() - 1,
+                                    [&](const LoadPair& pair) { return Matches(boxes, pair); });
+    return found == cycle.end() - 1 ? cycle.front() : *(found + 1);
+}
+
+}  // namespace kordavan
