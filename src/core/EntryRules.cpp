@@ -61,14 +61,15 @@ constexpr std::string_view AnyUnbracedLength = "Any";
 constexpr double InsertLimit = 999999;
 
 /// What stands in a box although it is no number.
-bool StandsUnread(EntryKind kind, std::string_view text)
+bool StandsUnread(EntryKind kind, std::string_view text, EntryState state)
 {
     switch (kind) {
         case EntryKind::Distance:
         case EntryKind::Pitch:
             return text == ".";
         case EntryKind::Unbraced:
-            return text == AnyUnbracedLength;
+            return text == AnyUnbracedLength ||
+                   (state == EntryState::BeingTyped && AnyUnbracedLength.starts_with(text));
         case EntryKind::Length:
         case EntryKind::Load:
             return false;
@@ -85,9 +86,9 @@ const EntryRule* FindEntryRule(std::string_view box)
     return found == Rules.end() ? nullptr : found;
 }
 
-EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text)
+EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text, EntryState state)
 {
-    if (text.empty() || StandsUnread(rule.Kind, text)) {
+    if (text.empty() || StandsUnread(rule.Kind, text, state)) {
         return EntryVerdict::Stands;
     }
     if (!IsNumeric(text) || Val(text) < 0) {

@@ -26,8 +26,11 @@ enum class EntryVerdict { Stands, Emptied, Refused };
 /// The rule of a numeric box by its name without index; none for boxes that take any text.
 const EntryRule* FindEntryRule(std::string_view box);
 
+/// Whether more may come: while it is typed, the beginnings of "Any" stand in an unbraced box.
+enum class EntryState { Complete, BeingTyped };
+
 /// Judges a changed text: Refused and Emptied both clear the box, Refused with the rule's message.
-EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text);
+EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text, EntryState state = EntryState::Complete);
 
 /// Why the text of the calculator may not go into a box of this rule; an empty text when it may.
 std::string_view InsertRefusal(const EntryRule& rule, std::string_view calculatorText);

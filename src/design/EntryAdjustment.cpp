@@ -73,15 +73,6 @@ void DivideForSpacing(LoadSet& loads, RepetitiveSpacing spacing)
     });
 }
 
-void RestoreHipLoads(BeamProblem& problem, EntriesToRestore& restore)
-{
-    if (restore.HipLoadsGrown) {
-        problem.Loads.IncTL = restore.SavedIncTL;
-        problem.Loads.IncUnifTL = restore.SavedIncUnifTL;
-        restore.HipLoadsGrown = false;
-    }
-}
-
 }  // namespace
 
 std::string LoadText(double value)
@@ -129,7 +120,17 @@ void RestoreEntries(Session& session)
         problem.Loads.UNIF = restore.SavedUniform;
         problem.Loads.PAR = restore.SavedPartial;
     }
-    RestoreHipLoads(problem, restore);
+    RestoreHipLoads(session);
+}
+
+void RestoreHipLoads(Session& session)
+{
+    EntriesToRestore& restore = session.Restore;
+    if (restore.HipLoadsGrown) {
+        session.Problem.Loads.IncTL = restore.SavedIncTL;
+        session.Problem.Loads.IncUnifTL = restore.SavedIncUnifTL;
+        restore.HipLoadsGrown = false;
+    }
 }
 
 }  // namespace kordavan

@@ -21,4 +21,7 @@ void AdjustEntries(BeamProblem& problem, float slopeFactor, EntriesToRestore& re
 /// divided, to whole pounds for 16 and 19.2 in.; totals grown by the slope return to what was typed.
 void RestoreEntries(Session& session);
 
+/// Puts back the roof loads that the hips and valleys tool has grown, so that it may run again.
+void RestoreHipLoads(Session& session);
+
 }  // namespace kordavan

@@ -45,6 +45,17 @@ INSTANTIATE_TEST_SUITE_P(
         EntryCase{"Text2", "0", Emptied}),
     CaseName);
 
+TEST(EntryRules, LetAnyBeTypedInAnUnbracedBox)
+{
+    const EntryRule& rule = *FindEntryRule("UBLtext");
+    for (const std::string_view text : {"A", "An", "Any"}) {
+        EXPECT_EQ(JudgeEntry(rule, text, EntryState::BeingTyped), Stands) << text;
+    }
+    EXPECT_EQ(JudgeEntry(rule, "An"), Refused);
+    EXPECT_EQ(JudgeEntry(rule, "n", EntryState::BeingTyped), Refused);
+    EXPECT_EQ(JudgeEntry(*FindEntryRule("Span"), "A", EntryState::BeingTyped), Refused);
+}
+
 TEST(EntryRules, LeaveTextBoxesAlone)
 {
     for (const std::string_view box : {"Proj", "Descrip", "Dur", "MaxDefl", "DepCombo"}) {

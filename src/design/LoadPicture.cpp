@@ -1,0 +1,175 @@
+#include "design/LoadPicture.h"
+
+#include <algorithm>
+
+#include "core/NumberText.h"
+
+namespace kordavan {
+
+namespace {
+
+class PictureReader {
+public:
+    explicit PictureReader(const Session& session) : beam(ReadBeamNumbers(session.Problem))
+    {
+        picture.Support = beam.Support;
+        picture.SpanCount = beam.IsContinuous() ? (beam.ThreeSpan ? 3 : 2) : 1;
+        picture.Span = beam.Span;
+        picture.Overhang = beam.Overhang;
+    }
+
+    LoadPicture Read()
+    {
+        AddUniform();
+        if (beam.Support == SupportCondition::SimpleSpan || beam.IsOverhanging()) {
+            AddPoints();
+            AddPartials();
+        }
+        return picture;
+    }
+
+private:
+    bool IsOnOverhang(std::size_t slot, std::size_t first) const { return beam.IsOverhanging() && slot >= first; }
+
+    void AddUniform()
+    {
+        const double total = std::max(beam.Loads.UNIF, beam.Loads.LUNIF);
+        if (total > 0) {
+            picture.Loads.push_back({.Kind = PictureLoadKind::Uniform,
+                                     .Letter = 'A',
+                                     .Begin = 0,
+                                     .End = picture.SpanCount * beam.Span,
+                                     .Total = total,
+                                     .Live = beam.Loads.LUNIF});
+        }
+    }
+
+    void AddPoints()
+    {
+        for (std::size_t k = 0; k < PointSlotCount; ++k) {
+            const double total = std::max(beam.Loads.PT[k], beam.Loads.LPT[k]);
+            if (total <= 0) {
+                continue;
+            }
+            const bool onOverhang = IsOnOverhang(k, FirstOverhangPoint);
+            const double place = beam.Loads.DIS[k];
+            picture.Loads.push_back({.Kind = PictureLoadKind::Point,
+                                     .Letter = PointLetter(k),
+                                     .Slot = k,
+                                     .Begin = onOverhang ? beam.Span + place : place,
+                                     .End = onOverhang ? beam.Span + place : place,
+                                     .Total = total,
+                                     .Live = beam.Loads.LPT[k],
+                                     .HasPlace = place > 0 && (onOverhang || place <= beam.Span),
+                                     .OnOverhang = onOverhang});
+        }
+    }
+
+    void AddPartials()
+    {
+        for (std::size_t k = 0; k < PartialSlotCount; ++k) {
+            const double total = std::max(beam.Loads.PAR[k], beam.Loads.LPAR[k]);
+            if (total <= 0) {
+                continue;
+            }
+            const bool onOverhang = IsOnOverhang(k, FirstOverhangPartial);
+            const double from = onOverhang ? beam.Span : 0;
+            const double end = beam.Loads.ENDP[k];
+            picture.Loads.push_back({.Kind = PictureLoadKind::Partial,
+                                     .Letter = PartialLetter(k),
+                                     .Slot = k,
+                                     .Begin = from + beam.Loads.BEGP[k],
+                                     .End = from + end,
+                                     .Total = total,
+                                     .Live = beam.Loads.LPAR[k],
+                                     .HasPlace = end > beam.Loads.BEGP[k] && (onOverhang || end <= beam.Span),
+                                     .OnOverhang = onOverhang});
+        }
+    }
+
+    BeamNumbers beam;
+    LoadPicture picture;
+};
+
+std::string UnbalancedLine(const UnbalancedLoads& unbalanced)
+{
+    if (unbalanced.Overhang) {
+        return "Live loads of the overhang are out";
+    }
+    return unbalanced.Span ? "Live loads of the backspan are out" : std::string{};
+}
+
+std::string FeetText(double feet)
+{
+    return FormatNumber(feet, "#0.0#") + " ft";
+}
+
+std::string DescribeSupport(const LoadPicture& picture)
+{
+    if (picture.Span <= 0) {
+        return "No span yet.";
+    }
+    switch (picture.Support) {
+        case SupportCondition::SimpleSpan:
+            return "Simple span of " + FeetText(picture.Span) + ".";
+        case SupportCondition::Overhanging:
+            return "Span of " + FeetText(picture.Span) + " with an overhang of " + FeetText(picture.Overhang) + ".";
+        case SupportCondition::HipValley:
+            return "Hip or valley of " + FeetText(picture.Span) + ", the load rising from R1 to R2.";
+        case SupportCondition::MultipleSpans:
+            return (picture.SpanCount == 3 ? "Three" : "Two") + std::string(" equal spans of ") +
+                   FeetText(picture.Span) + ".";
+    }
+    return {};
+}
+
+std::string DescribePlace(const PictureLoad& load)
+{
+    if (load.Kind == PictureLoadKind::Uniform) {
+        return " over the whole span";
+    }
+    if (!load.HasPlace) {
+        return ", its place is not entered";
+    }
+    const std::string place = load.Kind == PictureLoadKind::Point
+                                  ? " at " + FeetText(load.Begin)
+                                  : " from " + FeetText(load.Begin) + " to " + FeetText(load.End);
+    return place + (load.OnOverhang ? ", on the overhang" : "");
+}
+
+}  // namespace
+
+LoadPicture ReadLoadPicture(const Session& session)
+{
+    LoadPicture picture = PictureReader(session).Read();
+    picture.UnbalancedLine = UnbalancedLine(session.Unbalanced);
+    return picture;
+}
+
+std::string DescribePicture(const LoadPicture& picture)
+{
+    std::string text = DescribeSupport(picture);
+    for (const PictureLoad& load : picture.Loads) {
+        const bool isPoint = load.Kind == PictureLoadKind::Point;
+        text += " Load ";
+        text += load.Letter;
+        text += ": " + PlainNumber(load.Total) + (isPoint ? " lb" : " plf");
+        text += ", live " + PlainNumber(load.Live) + DescribePlace(load) + ".";
+    }
+    if (!picture.UnbalancedLine.empty()) {
+        text += " " + picture.UnbalancedLine + ".";
+    }
+    return text;
+}
+
+char PointLetter(std::size_t slot)
+{
+    return static_cast<char>('B' + slot);
+}
+
+char PartialLetter(std::size_t slot)
+{
+    return static_cast<char>('H' + slot);
+}
+
+}  // namespace kordavan

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "design/Session.h"
+
+namespace kordavan {
+
+enum class PictureLoadKind { Uniform, Point, Partial };
+
+/// One load as a sketch shows it.
+struct PictureLoad {
+    PictureLoadKind Kind = PictureLoadKind::Uniform;
+    char Letter = 'A';
+    std::size_t Slot = 0;
+    double Begin = 0;  // ft from R1; a load on the overhang stands beyond the span
+    double End = 0;    // as Begin for a point load
+    double Total = 0;  // lb or plf
+    double Live = 0;
+    bool HasPlace = true;  // false where its distances do not say where it stands
+    bool OnOverhang = false;
+};
+
+/// A beam with its loads, as far as the entries can be read; nothing is checked.
+struct LoadPicture {
+    SupportCondition Support = SupportCondition::SimpleSpan;
+    int SpanCount = 1;
+    double Span = 0;      // ft; 0 while there is none to read
+    double Overhang = 0;  // ft
+    std::vector<PictureLoad> Loads;
+    std::string UnbalancedLine;  // which live loads are out, if any
+
+    double Length() const { return SpanCount * Span + Overhang; }
+};
+
+LoadPicture ReadLoadPicture(const Session& session);
+
+/// The picture in words, for those who do not see it.
+std::string DescribePicture(const LoadPicture& picture);
+
+/// The letter of a load on screen and in print: A uniform, B to G points, H to L partial loads.
+char PointLetter(std::size_t slot);
+char PartialLetter(std::size_t slot);
+
+}  // namespace kordavan
