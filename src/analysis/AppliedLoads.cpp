@@ -15,6 +15,8 @@ namespace kordavan {
 
 namespace {
 
+constexpr int StationsReached = 95;
+
 double PartialLoad(const LoadView& loads, std::size_t k)
 {
     return loads.Partial[k] * (loads.End[k] - loads.Begin[k]);
@@ -157,13 +159,14 @@ LoadTotals SumLoads(const BeamNumbers& beam)
 }
 
 AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt,
-                                      StationTable& table)
+                                      StationTable& table, const Progress& progress)
 {
     AppliedLoadResult result;
     StoreTotals(beam, result);
     const double r1 = ReactionAtR1(beam, TotalLoads(beam.Loads));
     const double r1Live = ReactionAtR1(beam, LiveLoads(beam.Loads));
-    FillStations(beam, r1, table);
+    FillStations(beam, r1, table, progress);
+    progress.Reach(StationsReached);
     if (beam.IsContinuous()) {
         AnalyseContinuous(beam, result);
     } else {

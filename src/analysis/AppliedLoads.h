@@ -3,6 +3,7 @@
 #include "analysis/AnalysisResult.h"
 #include "analysis/StationTable.h"
 #include "core/BeamNumbers.h"
+#include "core/Progress.h"
 
 namespace kordavan {
 
@@ -12,7 +13,7 @@ namespace kordavan {
 /// from the table (200 steps over the span between R1 and R2), that of several spans from closed forms.
 /// @param previousInflectionFt  kept when an overhanging beam has no negative moment at any station
 AppliedLoadResult ComputeAppliedLoads(const BeamNumbers& beam, float previousInflectionFt,
-                                      StationTable& table);
+                                      StationTable& table, const Progress& progress = {});
 
 struct LoadTotals {
     double PointTotal = 0;    // lb

@@ -129,9 +129,17 @@ private:
     NetSums net;
 };
 
+constexpr int PointsReached = 20;
+constexpr int PartialsReached = 55;
+
+void ReachSlot(const Progress& progress, int from, std::size_t slot)
+{
+    progress.Reach(from + static_cast<int>(slot * slot));
+}
+
 }  // namespace
 
-void FillStations(const BeamNumbers& beam, double reaction, StationTable& table)
+void FillStations(const BeamNumbers& beam, double reaction, StationTable& table, const Progress& progress)
 {
     if (beam.IsContinuous()) {
         table.Clear();
@@ -143,13 +151,16 @@ void FillStations(const BeamNumbers& beam, double reaction, StationTable& table)
     const LoadNumbers& loads = beam.Loads;
     const LoadSlots& slots = SlotsOnSpan(beam.Support);
     for (std::size_t k = 0; k < PointSlotCount; ++k) {
+        ReachSlot(progress, PointsReached, k);
         if (k < slots.Points.End && loads.PT[k] > 0) {
             filler.AddPoint(k, loads.PT[k], loads.DIS[k]);
         } else {
             filler.LeavePoint(k);
         }
     }
+    progress.Reach(PartialsReached);
     for (std::size_t k = 0; k < PartialSlotCount; ++k) {
+        ReachSlot(progress, PartialsReached, k);
         if (k < slots.Partials.End && loads.PAR[k] > 0) {
             filler.AddPartial(k, loads.PAR[k], loads.BEGP[k], loads.ENDP[k]);
         } else {

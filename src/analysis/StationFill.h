@@ -4,13 +4,16 @@
 
 #include "analysis/StationTable.h"
 #include "core/BeamNumbers.h"
+#include "core/Progress.h"
 
 namespace kordavan {
 
 /// Fills the whole table with moment and shear of the applied loads between R1 and R2; of a continuous beam
 /// the stations' places alone.
 /// @param reaction  R1 of the applied loads, lb
-void FillStations(const BeamNumbers& beam, double reaction, StationTable& table);
+/// @param progress  reaches 20 + k^2 with point load k, 55 and 55 + k^2 with the partial loads
+void FillStations(const BeamNumbers& beam, double reaction, StationTable& table,
+                  const Progress& progress = {});
 
 /// Where the moment rises for the last time; zeroes where it never does.
 struct MomentPeak {

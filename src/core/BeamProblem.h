@@ -47,6 +47,8 @@ struct LoadSet {
     PartialTexts PSF;     // partial load calculator: total and live, psf, and tributary length, ft
     PartialTexts LPSF;
     PartialTexts TribPSF;
+
+    bool operator==(const LoadSet&) const = default;
 };
 
 enum class SupportCondition { SimpleSpan, Overhanging, HipValley, MultipleSpans };
@@ -88,6 +90,8 @@ struct BeamProblem {
     std::string DepCombo = "All";  // greatest nominal depth of steel candidates, in.
 
     LoadSet Loads;
+
+    bool operator==(const BeamProblem&) const = default;
 };
 
 /// Slots from First up to End.

@@ -30,7 +30,8 @@ const EntryRule* FindEntryRule(std::string_view box);
 enum class EntryState { Complete, BeingTyped };
 
 /// Judges a changed text: Refused and Emptied both clear the box, Refused with the rule's message.
-EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text, EntryState state = EntryState::Complete);
+EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text,
+                        EntryState state = EntryState::Complete);
 
 /// Why the text of the calculator may not go into a box of this rule; an empty text when it may.
 std::string_view InsertRefusal(const EntryRule& rule, std::string_view calculatorText);

@@ -44,6 +44,10 @@ constexpr std::string_view FaultTitle = "Kordavan Error: Form 1";
 constexpr std::string_view Overflow =
     "Overflow: the loads or lengths entered are too large to be calculated.";
 
+constexpr int ChecksReached = 10;
+constexpr int AnalysisReached = 98;
+constexpr int AllReached = 100;
+
 constexpr float WoodDensityFactor = 0.243F;  // plf per in2: 35 lb per cubic foot
 constexpr float SteelDensityFactor = 1.0F;
 
@@ -128,14 +132,17 @@ Outcome RefuseOverflow(UserPort& user)
 }
 
 /// Adjusts a copy of the entries and analyses it; the session takes both when the results are numbers.
-Outcome AdjustAndAnalyse(Session& session, UserPort& user)
+Outcome AdjustAndAnalyse(Session& session, UserPort& user, const Progress& progress)
 {
+    progress.Reach(ChecksReached);
     BeamProblem adjusted = session.Problem;
     EntriesToRestore restore = session.Restore;
     AdjustEntries(adjusted, RafterSlopeFactor(adjusted), restore);
     const BeamNumbers beam = ReadNumbers(session, adjusted);
     StationTable stations;
-    const AppliedLoadResult applied = ComputeAppliedLoads(beam, session.Analysis.InflectionFt, stations);
+    const AppliedLoadResult applied =
+        ComputeAppliedLoads(beam, session.Analysis.InflectionFt, stations, progress);
+    progress.Reach(AnalysisReached);
     if (!IsFinite(beam.Loads) || !IsFinite(applied)) {
         return RefuseOverflow(user);
     }
@@ -145,12 +152,13 @@ Outcome AdjustAndAnalyse(Session& session, UserPort& user)
     session.Stations = stations;
     session.Analysis = AnalysisResult{};
     static_cast<AppliedLoadResult&>(session.Analysis) = applied;
+    progress.Reach(AllReached);
     return Outcome::Done;
 }
 
 }  // namespace
 
-Outcome CalculateAction(Session& session, UserPort& user)
+Outcome CalculateAction(Session& session, UserPort& user, const Progress& progress)
 {
     if (RemindOfTributary(session.Problem, user) != Outcome::Done) {
         return Outcome::Refused;
@@ -163,7 +171,7 @@ Outcome CalculateAction(Session& session, UserPort& user)
         CheckLoads(session.Problem, beam, user) != Outcome::Done) {
         return Outcome::Refused;
     }
-    return AdjustAndAnalyse(session, user);
+    return AdjustAndAnalyse(session, user, progress);
 }
 
 }  // namespace kordavan

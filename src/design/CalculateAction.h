@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Message.h"
+#include "core/Progress.h"
 #include "design/Session.h"
 
 namespace kordavan {
@@ -11,6 +12,6 @@ namespace kordavan {
 /// The loads in the entries are those of the analysis afterwards, until RestoreEntries puts them back. A
 /// refusal tells one message and changes nothing, but for a uniform load that the person has asked to be
 /// worked out.
-Outcome CalculateAction(Session& session, UserPort& user);
+Outcome CalculateAction(Session& session, UserPort& user, const Progress& progress = {});
 
 }  // namespace kordavan

@@ -29,7 +29,10 @@ public:
     }
 
 private:
-    bool IsOnOverhang(std::size_t slot, std::size_t first) const { return beam.IsOverhanging() && slot >= first; }
+    bool IsOnOverhang(std::size_t slot, std::size_t first) const
+    {
+        return beam.IsOverhanging() && slot >= first;
+    }
 
     void AddUniform()
     {
@@ -113,7 +116,8 @@ std::string DescribeSupport(const LoadPicture& picture)
         case SupportCondition::SimpleSpan:
             return "Simple span of " + FeetText(picture.Span) + ".";
         case SupportCondition::Overhanging:
-            return "Span of " + FeetText(picture.Span) + " with an overhang of " + FeetText(picture.Overhang) + ".";
+            return "Span of " + FeetText(picture.Span) + " with an overhang of " +
+                   FeetText(picture.Overhang) + ".";
         case SupportCondition::HipValley:
             return "Hip or valley of " + FeetText(picture.Span) + ", the load rising from R1 to R2.";
         case SupportCondition::MultipleSpans:

@@ -85,22 +85,6 @@ void SwitchSupport(Session& session, SupportCondition support)
     }
 }
 
-void StartNewBeam(Session& session)
-{
-    const BeamProblem& old = session.Problem;
-    BeamProblem fresh;
-    fresh.Combo1 = old.Combo1;
-    fresh.MaxDefl = old.MaxDefl;
-    fresh.LMaxDefl = old.LMaxDefl;
-    fresh.INGRADE = old.INGRADE;
-    fresh.Proj = old.Proj;
-    session.Problem = std::move(fresh);
-    session.Selection.reset();
-    session.IncreasingTotalLoad = 0;
-    session.IncreasingLiveLoad = 0;
-    ForgetAdjustments(session);
-}
-
 void ClearPointRow(LoadSet& loads, std::size_t slot)
 {
     loads.PT[slot].clear();

@@ -14,9 +14,6 @@ namespace kordavan {
 /// boxes become those of the new condition. Nothing happens when it is the condition already.
 void SwitchSupport(Session& session, SupportCondition support);
 
-/// Empties the problem for a new beam; material group, deflection limits, in-grade switch and project stay.
-void StartNewBeam(Session& session);
-
 void ClearPointRow(LoadSet& loads, std::size_t slot);
 void ClearPartialRow(LoadSet& loads, std::size_t slot);
 void ClearUniformLoad(LoadSet& loads);

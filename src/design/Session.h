@@ -10,6 +10,7 @@
 #include "core/BeamNumbers.h"
 #include "core/BeamProblem.h"
 #include "core/NdsEdition.h"
+#include "design/Member.h"
 #include "design/MemberTestResult.h"
 #include "design/SelectionRecord.h"
 
@@ -57,8 +58,11 @@ struct Session {
     bool SoPineLowered = false;  // left by the last test of a #2 Southern Pine
     MemberTest Member;
 
+    MemberEntry Entry;                         // the size boxes of the selection screen
     std::optional<SelectionRecord> Selection;  // withdrawn by every change of the entries
-    ReportNoteLines ReportNotes;
+    ReportNoteLines NoteClipboard;
+
+    BeamProblem KeptProblem;  // the entries as last saved, or as a new beam begins
 };
 
 }  // namespace kordavan

@@ -1,4 +1,5 @@
 #include "design/LoadingConditions.h"
+#include "design/NewBeam.h"
 
 #include <gmock/gmock.h>
 

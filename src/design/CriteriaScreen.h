@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "design/Session.h"
+
+namespace kordavan {
+
+/// Which load tables stand on the criteria form beside the uniform load.
+enum class LoadTables { PointAndPartial, HipValley, MultipleSpans };
+
+/// A button that takes live loads out or puts them back.
+struct UnbalanceButton {
+    std::string_view Caption;
+    bool IsPressed = false;
+    bool IsEnabled = true;
+};
+
+/// What the criteria form shows of a session besides the entries themselves.
+struct CriteriaScreen {
+    std::string Title;
+    std::string SavePanel;
+    std::string_view UBLlabel;
+    bool HasUnbracedLength = true;  // the box may be typed in
+    bool HasOverhang = false;
+    UnbalanceButton UBSpan;
+    UnbalanceButton UBOH;
+    LoadTables Tables = LoadTables::PointAndPartial;
+    std::string_view PLFspin;           // what the uniform load is called
+    bool CanCalculateHipLoad = false;   // the tool has not grown the loads already
+    bool MustCalculateHipLoad = false;  // there is no equivalent load yet
+    std::string_view EqualReactions;    // of multiple spans
+};
+
+CriteriaScreen DescribeCriteriaScreen(const Session& session);
+
+/// What an edit of the person's brings with it: the selection on record is withdrawn, and the equivalent load
+/// of a hip or valley goes when one of its entries changes.
+/// @param box  the edited box, such as "IncTL" or "Areas[2]"
+void EntryEdited(Session& session, std::string_view box);
+
+}  // namespace kordavan

@@ -1,0 +1,109 @@
+#include "design/NewBeam.h"
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "core/NumberText.h"
+#include "design/EntryAdjustment.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view EntriesNotSaved = "The entries of this beam have not been saved.";
+
+constexpr std::string_view SaveWorkTitle = "SAVE YOUR WORK REMINDER";
+constexpr std::string_view SaveWork =
+    "Starting a new beam calculation removes the current beam data from memory.\n"
+    "If you have NOT saved your work, select YES and then save by one of these methods:\n"
+    "1. Print the Data Record.\n"
+    "2. Copy the Data Record to another application (see Help for this procedure).\n"
+    "3. Save the Beam Criteria (in Form1) by selecting from the menu, FILE, SAVE BEAM.\n"
+    "4. Save the Data Record as a text file by selecting from the data record menu, FILE, SAVE...\n"
+    "        NEED TO SAVE YOUR WORK?";
+constexpr std::string_view SaveNotesTitle = "SAVE YOUR NOTES REMINDER";
+constexpr std::string_view SaveNotes = "Do you wish to retain your notes for the next beam?";
+
+bool AskUnder(std::string_view title, std::string_view text, UserPort& user)
+{
+    Message question = Question(text);
+    question.Title = title;
+    return user.Ask(question);
+}
+
+bool HasNotes(const ReportNoteLines& notes)
+{
+    return std::any_of(notes.begin(), notes.end(), [](const std::string& line) { return !line.empty(); });
+}
+
+void AskAboutNotes(Session& session, UserPort& user)
+{
+    if (HasNotes(session.NoteClipboard) && !AskUnder(SaveNotesTitle, SaveNotes, user)) {
+        session.NoteClipboard = {};
+    }
+}
+
+}  // namespace
+
+void StartNewBeam(Session& session)
+{
+    const BeamProblem& old = session.Problem;
+    BeamProblem fresh;
+    fresh.Combo1 = old.Combo1;
+    fresh.MaxDefl = old.MaxDefl;
+    fresh.LMaxDefl = old.LMaxDefl;
+    fresh.INGRADE = old.INGRADE;
+    fresh.Proj = old.Proj;
+    session.Problem = std::move(fresh);
+    session.KeptProblem = session.Problem;
+    session.Selection.reset();
+    session.IncreasingTotalLoad = 0;
+    session.IncreasingLiveLoad = 0;
+    session.Unbalanced = {};
+    session.Restore = {};
+}
+
+Outcome OfferNewBeam(Session& session, UserPort& user)
+{
+    if (HasUnsavedEntries(session)) {
+        const std::string question = std::string(EntriesNotSaved) + "\nDo you wish to start a new beam?";
+        if (!user.Ask(Question(question))) {
+            return Outcome::Refused;
+        }
+    }
+    AskAboutNotes(session, user);
+    StartNewBeam(session);
+    return Outcome::Done;
+}
+
+Outcome OfferNewBeamAfterReport(Session& session, UserPort& user)
+{
+    if (AskUnder(SaveWorkTitle, SaveWork, user)) {
+        return Outcome::Refused;
+    }
+    AskAboutNotes(session, user);
+    StartNewBeam(session);
+    return Outcome::Done;
+}
+
+bool HasUnsavedEntries(const Session& session)
+{
+    Session asTyped = session;
+    RestoreEntries(asTyped);
+    return asTyped.Problem != session.KeptProblem;
+}
+
+Message ExitQuestion(const Session& session, int minutesUsed)
+{
+    std::string text = "You have used Kordavan for " + PlainNumber(static_cast<double>(minutesUsed)) +
+                       " minutes. Do you wish to exit?";
+    if (HasUnsavedEntries(session)) {
+        text += "\n";
+        text += EntriesNotSaved;
+    }
+    return Question(text);
+}
+
+}  // namespace kordavan
