@@ -3,6 +3,7 @@
 #include "analysis/AppliedLoads.h"
 #include "batch/CollectingUser.h"
 #include "design/CalculateAction.h"
+#include "design/Selection.h"
 #include "design/TestMember.h"
 #include "design/TestReport.h"
 
@@ -79,5 +80,15 @@ void OneTestReport(benchmark::State& state)
     }
 }
 BENCHMARK(OneTestReport);
+
+void SelectionTable(benchmark::State& state)
+{
+    Session session = CalculatedSession();
+    CollectingUser user;
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(StartSelection(session, user));
+    }
+}
+BENCHMARK(SelectionTable);
 
 }  // namespace

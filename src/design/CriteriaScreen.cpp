@@ -96,10 +96,23 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
 void EntryEdited(Session& session, std::string_view box)
 {
     session.Selection.reset();
+    if (box == "Rep" && !session.Problem.Rep) {
+        session.Problem.Spacing = RepetitiveSpacing::None;
+    }
     if (session.Problem.Support == SupportCondition::HipValley && IsHipEntry(box)) {
         RestoreOtherHipLoads(session, box);
         ClearUniformLoad(session.Problem.Loads);
     }
+}
+
+Outcome ChangeEntries(Session& session, UserPort& user, const SessionChange& change)
+{
+    const BeamProblem before = session.Problem;
+    const Outcome outcome = change(session, user);
+    if (session.Problem != before) {
+        session.Selection.reset();
+    }
+    return outcome;
 }
 
 }  // namespace kordavan

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
+#include "core/Message.h"
 #include "design/Session.h"
 
 namespace kordavan {
@@ -35,9 +37,15 @@ struct CriteriaScreen {
 
 CriteriaScreen DescribeCriteriaScreen(const Session& session);
 
-/// What an edit of the person's brings with it: the selection on record is withdrawn, and the equivalent load
-/// of a hip or valley goes when one of its entries changes.
+/// What an edit of the person's brings with it: the selection on record is withdrawn, no spacing is chosen
+/// without repetitive use, and the equivalent load of a hip or valley goes when one of its entries changes.
 /// @param box  the edited box, such as "IncTL" or "Areas[2]"
 void EntryEdited(Session& session, std::string_view box);
+
+/// A command of the person's that changes the session, or is refused.
+using SessionChange = std::function<Outcome(Session&, UserPort&)>;
+
+/// Makes a change of the entries; the selection on record is withdrawn where they differ after it.
+Outcome ChangeEntries(Session& session, UserPort& user, const SessionChange& change);
 
 }  // namespace kordavan

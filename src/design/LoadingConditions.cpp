@@ -10,6 +10,7 @@ namespace kordavan {
 namespace {
 
 constexpr std::string_view FullyBraced = "0";
+constexpr std::string_view NoLoadPairs = "There are no load pairs to step through yet.";
 
 void ClearHipLoads(LoadSet& loads)
 {
@@ -143,6 +144,17 @@ LoadPair NextLoadPair(std::span<const LoadPair> pairs, const LoadPair& boxes)
     const auto found = std::find_if(cycle.begin(), cycle.end() - 1,
                                     [&](const LoadPair& pair) { return Matches(boxes, pair); });
     return found == cycle.end() - 1 ? cycle.front() : *(found + 1);
+}
+
+Outcome StepLoadPair(std::span<const LoadPair> pairs, std::string& live, std::string& total, UserPort& user)
+{
+    if (std::all_of(pairs.begin(), pairs.end(), IsBlankPair)) {
+        return Refuse(user, Refusal(NoLoadPairs));
+    }
+    const LoadPair next = NextLoadPair(pairs, {.Live = live, .Total = total});
+    live = next.Live;
+    total = next.Total;
+    return Outcome::Done;
 }
 
 }  // namespace kordavan

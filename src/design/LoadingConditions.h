@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/Message.h"
 #include "design/Session.h"
 
 namespace kordavan {
@@ -47,5 +48,8 @@ struct LoadPair {
 /// pair is the one in the boxes also when one of the two boxes is empty; pairs of two zeroes are passed over,
 /// and with no others the boxes stay as they are.
 LoadPair NextLoadPair(std::span<const LoadPair> pairs, const LoadPair& boxes);
+
+/// Writes the next pair into two load boxes. Refused when there is no pair to step through.
+Outcome StepLoadPair(std::span<const LoadPair> pairs, std::string& live, std::string& total, UserPort& user);
 
 }  // namespace kordavan

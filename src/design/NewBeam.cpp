@@ -92,6 +92,7 @@ bool HasUnsavedEntries(const Session& session)
 {
     Session asTyped = session;
     RestoreEntries(asTyped);
+    RestoreHipLoads(asTyped);
     return asTyped.Problem != session.KeptProblem;
 }
 

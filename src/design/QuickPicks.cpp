@@ -228,7 +228,50 @@ std::string ValuesInUse(const BeamNumbers& beam)
     return text + " Values";
 }
 
+/// Timbers and glulams, which repetitive use does not raise.
+bool IsUnfitForRepetition(const QuickPick& pick, const BeamNumbers& beam)
+{
+    const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam), pick.BreadthText);
+    return breadth && (breadth->Key == BreadthKey::SixBy || breadth->Key == BreadthKey::Glulam);
+}
+
+std::string_view WhyEmpty(PickState state)
+{
+    switch (state) {
+        case PickState::UnderLadder:
+            return "Empty: the estimated depth is under 3.5 in. A small size can be typed below and tested.";
+        case PickState::PastLadder:
+            return "Empty: no depth of this breadth is deep enough.";
+        case PickState::NonePasses:
+            return "Empty: no depth of this breadth passes every check.";
+        case PickState::Filled:
+            break;
+    }
+    return {};
+}
+
 }  // namespace
+
+PickFace FaceOf(const QuickPick& pick, const BeamNumbers& beam)
+{
+    PickFace face;
+    face.Name = pick.BreadthText;
+    face.Name += pick.DepthText.empty() ? " " : " " + pick.DepthText + " ";
+    face.Name += pick.SpeciesText;
+    face.IsFaded = beam.Rep && IsUnfitForRepetition(pick, beam);
+    if (pick.DepthText.empty()) {
+        face.Tip = WhyEmpty(pick.State);
+    } else {
+        face.Tip = face.IsFaded ? std::string(SelectionScreenTexts::RepQualify) : face.Name;
+    }
+    return face;
+}
+
+bool IsEntered(const QuickPick& pick, const MemberEntry& entry)
+{
+    return !pick.DepthText.empty() && pick.BreadthText == entry.BreadthText &&
+           pick.DepthText == entry.DepthText && pick.SpeciesText == entry.SpeciesText;
+}
 
 QuickPicks QuickPickCells(const BeamNumbers& beam)
 {

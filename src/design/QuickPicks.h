@@ -24,6 +24,18 @@ struct QuickPick {
 
 using QuickPicks = std::array<QuickPick, QuickPickCount>;
 
+/// How a screen shows a quick pick.
+struct PickFace {
+    std::string Name;      // the whole member; of an empty cell its breadth and species
+    std::string Tip;       // what to know before picking it, or why it is empty
+    bool IsFaded = false;  // repetitive use is asked for, which the test will not grant it
+};
+
+PickFace FaceOf(const QuickPick& pick, const BeamNumbers& beam);
+
+/// True when the pick is the member in the size boxes.
+bool IsEntered(const QuickPick& pick, const MemberEntry& entry);
+
 /// The cells of a species group in their order: No. 2 and No. 1 rows of its two species, then the glulams.
 /// Overhanging and continuous beams take the balanced glulam.
 QuickPicks QuickPickCells(const BeamNumbers& beam);

@@ -9,7 +9,8 @@
 
 namespace kordavan {
 
-/// Opens the selection on a new analysis: the size boxes are emptied and the quick picks found.
+/// Opens the selection on a new analysis: the size boxes are emptied and the quick picks found. What their
+/// tests have to say is told once.
 QuickPicks StartSelection(Session& session, UserPort& user);
 
 /// Fills the size boxes from a quick pick; an empty cell changes nothing.

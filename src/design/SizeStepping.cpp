@@ -99,13 +99,17 @@ std::optional<MemberEntry> FirstOn(const Rungs& begin, const Rungs& end, const M
     return std::nullopt;
 }
 
-std::optional<MemberEntry> WithDepth(const MemberEntry& entry, std::string_view depth)
+/// The member at another depth; the size boxes may have gone on to an untested pick.
+std::optional<MemberEntry> WithDepth(const MemberEntry& entry, const MemberCandidate& member,
+                                     std::string_view depth)
 {
     if (depth.empty()) {
         return std::nullopt;
     }
     MemberEntry stepped = entry;
+    stepped.BreadthText = member.BreadthText;
     stepped.DepthText = depth;
+    stepped.SpeciesText = member.SpeciesText;
     return stepped;
 }
 
@@ -120,9 +124,9 @@ std::optional<MemberEntry> StepSize(SizeStep step, const MemberEntry& entry, con
     const std::span<const std::string_view> ladder = LadderOf(member, group);
     switch (step) {
         case SizeStep::DepthUp:
-            return WithDepth(entry, member.NextLargerDepthText);
+            return WithDepth(entry, member, member.NextLargerDepthText);
         case SizeStep::DepthDown:
-            return WithDepth(entry, member.NextSmallerDepthText);
+            return WithDepth(entry, member, member.NextSmallerDepthText);
         case SizeStep::BreadthUp: {
             const auto rungs = RungsAbove(ladder, member.BreadthText);
             return FirstOn(rungs.begin(), rungs.end(), entry, member);

@@ -130,4 +130,15 @@ TestReport MakeTestReport(const Session& session)
     return report;
 }
 
+std::string_view OverallText(const MemberTestResult& result)
+{
+    return result.NoSplits && result.Overall.empty() ? "OK with NO SPLITS" : result.Overall;
+}
+
+std::optional<double> RatioOf(std::string_view percentText)
+{
+    constexpr double whole = 100;
+    return percentText.empty() ? std::nullopt : std::optional(Val(percentText) / whole);
+}
+
 }  // namespace kordavan

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -109,5 +110,11 @@ inline constexpr std::array TestReportFields{
 
 /// The report of the member tested last.
 TestReport MakeTestReport(const Session& session);
+
+/// The verdict on the member as a whole: "OK", "Fail", or "OK with NO SPLITS".
+std::string_view OverallText(const MemberTestResult& result);
+
+/// The part of its capacity that a row of the report tells: 1 of "100%"; none of an empty text.
+std::optional<double> RatioOf(std::string_view percentText);
 
 }  // namespace kordavan

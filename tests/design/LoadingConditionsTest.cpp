@@ -1,9 +1,12 @@
 #include "design/LoadingConditions.h"
-#include "design/NewBeam.h"
 
 #include <gmock/gmock.h>
 
-#include "core/Calculator.h"
+#include <array>
+#include <span>
+#include <string>
+#include <vector>
+
 #include "design/DesignBuilder.h"
 #include "design/Unbalance.h"
 
@@ -11,6 +14,8 @@ namespace kordavan {
 namespace {
 
 using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 TEST(SwitchSupport, ClearsEveryLoadAndKeepsTheUpperPart)
 {
@@ -76,31 +81,6 @@ TEST(SwitchSupport, LeavesNoLoadUnbalanced)
     EXPECT_EQ(session.Unbalanced.SavedLivePoint[4], "");
 }
 
-TEST(NewBeam, KeepsGroupLimitsSwitchAndProject)
-{
-    Session session = PlainSession();
-    BeamProblem& problem = session.Problem;
-    problem.Combo1 = SpeciesGroup::Oak;
-    problem.MaxDefl = "180";
-    problem.LMaxDefl = "";
-    problem.INGRADE = false;
-    problem.Proj = "Barn";
-    problem.ID = "B1";
-    problem.Dur = "1.25";
-    problem.Support = SupportCondition::Overhanging;
-    session.Selection = SelectionRecord{"4x  10 DF-L #2", "OK", "1/02/26"};
-    StartNewBeam(session);
-    EXPECT_EQ(problem.Combo1, SpeciesGroup::Oak);
-    EXPECT_EQ(problem.MaxDefl, "180");
-    EXPECT_EQ(problem.LMaxDefl, "");
-    EXPECT_FALSE(problem.INGRADE);
-    EXPECT_EQ(problem.Proj, "Barn");
-    EXPECT_EQ(problem.ID + problem.Span + problem.Loads.UNIF, "");
-    EXPECT_EQ(problem.Dur, "1.00");
-    EXPECT_EQ(problem.Support, SupportCondition::SimpleSpan);
-    EXPECT_FALSE(session.Selection);
-}
-
 TEST(NextDuration, CyclesAndBeginsAgainFromAnyOtherText)
 {
     EXPECT_EQ(NextDuration("1.00"), "1.15");
@@ -138,6 +118,37 @@ TEST(NextLoadPair, WithoutDefaultsLeavesTheBoxesAlone)
 {
     const std::array<LoadPair, 5> none{};
     EXPECT_EQ(NextLoadPair(none, {"60", "100"}), (LoadPair{"60", "100"}));
+}
+
+TEST(StepLoadPair, WritesBothBoxesThroughTheWholeCycle)
+{
+    const std::array<LoadPair, 3> pairs{LoadPair{"40", "50"}, LoadPair{"0", "0"}, LoadPair{"25", "40"}};
+    std::string live;
+    std::string total;
+    ScriptedUser user;
+    std::vector<LoadPair> seen;
+    for (int press = 0; press < 4; ++press) {
+        EXPECT_EQ(StepLoadPair(pairs, live, total, user), Outcome::Done);
+        seen.push_back({live, total});
+    }
+    EXPECT_THAT(seen,
+                ElementsAre(LoadPair{"40", "50"}, LoadPair{"25", "40"}, LoadPair{}, LoadPair{"40", "50"}));
+    EXPECT_THAT(user.Told, IsEmpty());
+}
+
+TEST(StepLoadPair, RefusesWithoutAPairAndLeavesTheBoxesAlone)
+{
+    const std::array<LoadPair, 2> zeroes{LoadPair{"0", ""}, LoadPair{"", "0"}};
+    for (const std::span<const LoadPair> none :
+         {std::span<const LoadPair>{}, std::span<const LoadPair>(zeroes)}) {
+        std::string live = "60";
+        std::string total = "100";
+        ScriptedUser user;
+        EXPECT_EQ(StepLoadPair(none, live, total, user), Outcome::Refused);
+        EXPECT_THAT(user.Told, ElementsAre(RefusalOf("There are no load pairs to step through yet.")));
+        EXPECT_EQ(live, "60");
+        EXPECT_EQ(total, "100");
+    }
 }
 
 TEST(ResultLines, ShowTheRecordInTheBlanksOfTheirScreen)

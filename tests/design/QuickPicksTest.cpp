@@ -6,11 +6,15 @@
 #include <string>
 
 #include "design/DesignBuilder.h"
+#include "design/EntryChoices.h"
+#include "design/Selection.h"
 #include "materials/Species.h"
+#include "support/CaseName.h"
 
 namespace kordavan {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 
 QuickPicks PicksOf(Session& session)
@@ -166,6 +170,147 @@ TEST(QuickPicks, OfRepetitiveMembersHaveTimbersAndGlulamsToo)
     EXPECT_EQ(picks[5].State, PickState::Filled);
     EXPECT_EQ(MakeSelectionTexts(session).RepQualify,
               "Glu-lams and 6x's do not qualify for the 'repetitive use' modifier.");
+}
+
+struct FaceCase {
+    std::string_view Name;
+    bool Rep;
+    QuickPick Pick;
+    std::string_view FaceName;
+    std::string_view Tip;
+    bool IsFaded;
+};
+
+class PickFaceTest : public testing::TestWithParam<FaceCase> {};
+
+TEST_P(PickFaceTest, TellsWhatThePickMeans)
+{
+    BeamNumbers beam;
+    beam.Rep = GetParam().Rep;
+    const PickFace face = FaceOf(GetParam().Pick, beam);
+    EXPECT_EQ(face.Name, GetParam().FaceName);
+    EXPECT_EQ(face.Tip, GetParam().Tip);
+    EXPECT_EQ(face.IsFaded, GetParam().IsFaded);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cells, PickFaceTest,
+    testing::Values(
+        FaceCase{"filled",
+                 false,
+                 {"4x", "DF-L #2", "10", PickState::Filled},
+                 "4x 10 DF-L #2",
+                 "4x 10 DF-L #2",
+                 false},
+        FaceCase{"repetitive 4x",
+                 true,
+                 {"4x", "DF-L #2", "10", PickState::Filled},
+                 "4x 10 DF-L #2",
+                 "4x 10 DF-L #2",
+                 false},
+        FaceCase{"repetitive timber",
+                 true,
+                 {"8x", "HF #1", "8", PickState::Filled},
+                 "8x 8 HF #1",
+                 SelectionScreenTexts::RepQualify,
+                 true},
+        FaceCase{"repetitive glulam",
+                 true,
+                 {"5-1/8x", "GLB 24F-V4 DF/DF", "9", PickState::Filled},
+                 "5-1/8x 9 GLB 24F-V4 DF/DF",
+                 SelectionScreenTexts::RepQualify,
+                 true},
+        FaceCase{"under the ladder",
+                 false,
+                 {"2x", "HF #2", "", PickState::UnderLadder},
+                 "2x HF #2",
+                 "Empty: the estimated depth is under 3.5 in. A small size can be typed below and tested.",
+                 false},
+        FaceCase{"past the ladder",
+                 false,
+                 {"2x", "HF #2", "", PickState::PastLadder},
+                 "2x HF #2",
+                 "Empty: no depth of this breadth is deep enough.",
+                 false},
+        FaceCase{"none passes",
+                 true,
+                 {"10x", "HF #1", "", PickState::NonePasses},
+                 "10x HF #1",
+                 "Empty: no depth of this breadth passes every check.",
+                 true}),
+    CaseName);
+
+TEST(QuickPicks, KnowThePickInTheSizeBoxes)
+{
+    const QuickPick pick{"4x", "DF-L #2", "10", PickState::Filled};
+    EXPECT_TRUE(IsEntered(pick, Member("4x", "10", "DF-L #2")));
+    EXPECT_FALSE(IsEntered(pick, Member("4x", "12", "DF-L #2")));
+    EXPECT_FALSE(IsEntered(pick, Member("6x", "10", "DF-L #2")));
+    EXPECT_FALSE(IsEntered(pick, Member("4x", "10", "DF-L #1")));
+    EXPECT_FALSE(IsEntered({"", "", "", PickState::NonePasses}, Member("", "", "")));
+}
+
+TEST(QuickPicks, TellOnceWhatEveryCellMeets)
+{
+    Session session = PlainSession();
+    session.Problem.INGRADE = false;
+    Calculate(session);
+    ScriptedUser user;
+    for (const QuickPick& pick : StartSelection(session, user)) {
+        EXPECT_EQ(pick.DepthText, "") << CellText(pick);
+    }
+    EXPECT_THAT(user.Told, ElementsAre(RefusalOf("Database search error in calc module")));
+}
+
+BeamNumbers BeamOf(SpeciesGroup group)
+{
+    BeamNumbers beam;
+    beam.Group = group;
+    return beam;
+}
+
+TEST(EntryChoices, AreTheTextsThatTheBoxesTake)
+{
+    for (const SpeciesGroupRow& group : SpeciesGroups) {
+        if (group.Group >= SpeciesGroup::Scl) {
+            continue;
+        }
+        const BeamNumbers beam = BeamOf(group.Group);
+        for (const std::string_view breadth : BreadthChoices(beam)) {
+            // the fitting species come first
+            const std::string_view species = SpeciesChoices(beam, breadth).front();
+            for (const std::string_view depth : DepthChoices(beam, breadth)) {
+                ScriptedUser user;
+                MemberCandidate member;
+                EXPECT_EQ(IdentifyMember(Member(breadth, depth, species), group.Group, user, member),
+                          Outcome::Done)
+                    << group.Text << ": " << breadth << " by " << depth << " " << species;
+            }
+        }
+    }
+}
+
+TEST(EntryChoices, OfSpeciesAreAllOfTheGroup)
+{
+    EXPECT_THAT(SpeciesChoices(BeamOf(SpeciesGroup::SprucePineFir), ""),
+                ElementsAre("GLB 16F-V2 HF/HF", "GLB 24F-V4 DF/DF", "SPF South #2", "SPF South #1", "SPF #2",
+                            "SPF #1", "GLB 16F-V6 DF/DF", "GLB 24F-V8 DF/DF"));
+    EXPECT_THAT(SpeciesChoices(BeamOf(SpeciesGroup::SouthernPine), "6x"),
+                ElementsAre("Mixed So. Pine #2", "Mixed So. Pine #1", "So. Pine #2 SR", "So. Pine #1 SR",
+                            "So. Pine #2", "So. Pine #1", "GLB 16F-V3 SP/SP", "GLB 24F-V3 SP/SP",
+                            "GLB 16F-V5 SP/SP", "GLB 24F-V5 SP/SP", "So. Pine #2 KD 15%",
+                            "So. Pine #1 KD 15%", "So. Pine #2 19% MC", "So. Pine #1 19% MC"));
+}
+
+TEST(EntryChoices, OfDepthsAreThoseOfEveryBreadthUntilThereIsOne)
+{
+    const BeamNumbers beam = BeamOf(SpeciesGroup::SouthernPine);
+    EXPECT_THAT(DepthChoices(beam, "2x"), ElementsAre("4", "6", "8", "10", "12", "14"));
+    EXPECT_THAT(DepthChoices(beam, "12x"), ElementsAre("12", "14", "16"));
+    const auto all = DepthChoices(beam, "9x");
+    EXPECT_THAT(all, Contains("4"));
+    EXPECT_THAT(all, Contains("30-1/4"));
+    EXPECT_EQ(std::set(all.begin(), all.end()).size(), all.size());
 }
 
 TEST(SelectionTexts, ShowTheAppliedLoads)

@@ -7,7 +7,9 @@
 
 #include "design/DesignBuilder.h"
 #include "design/ReportNotes.h"
+#include "design/SectionPicture.h"
 #include "design/Verdict.h"
+#include "support/CaseName.h"
 
 namespace kordavan {
 namespace {
@@ -217,6 +219,80 @@ TEST(Percentages, RoundSoThatAMemberJustOverItsLimitShows100)
     GiveVerdict(staged.Work.Numbers, staged.Work.Member);
     EXPECT_EQ(staged.Report().SecPercent, "100%");
     EXPECT_EQ(staged.Report().SecStatus, "Fail");
+}
+
+TEST(OverallText, NamesTheMemberThatMustHaveNoSplits)
+{
+    MemberTestResult result;
+    result.Overall = StatusFail;
+    EXPECT_EQ(OverallText(result), "Fail");
+    result.NoSplits = true;
+    EXPECT_EQ(OverallText(result), "Fail");  // another check fails besides
+    result.Overall = {};
+    EXPECT_EQ(OverallText(result), "OK with NO SPLITS");
+    result.NoSplits = false;
+    result.Overall = StatusOk;
+    EXPECT_EQ(OverallText(result), "OK");
+}
+
+TEST(Ratio, IsReadFromItsText)
+{
+    EXPECT_EQ(RatioOf(""), std::nullopt);
+    EXPECT_EQ(RatioOf("0%"), 0.0);
+    EXPECT_EQ(RatioOf("75%"), 0.75);
+    EXPECT_EQ(RatioOf("1250%"), 12.5);
+}
+
+struct SectionCase {
+    std::string_view Name;
+    SpeciesGroup Group;
+    std::string_view Breadth;
+    std::string_view Depth;
+    std::string_view Species;
+    int PlyCount;
+    double Lamination;  // in.
+    std::string_view Words;
+};
+
+class SectionPictureTest : public testing::TestWithParam<SectionCase> {};
+
+TEST_P(SectionPictureTest, KnowsWhatTheMemberIsMadeOf)
+{
+    const SectionCase& c = GetParam();
+    ScriptedUser user;
+    MemberCandidate member;
+    ASSERT_EQ(IdentifyMember(Member(c.Breadth, c.Depth, c.Species), c.Group, user, member), Outcome::Done);
+    const SectionPicture picture = ReadSectionPicture(member);
+    EXPECT_EQ(picture.PlyCount, c.PlyCount);
+    EXPECT_EQ(picture.Lamination, c.Lamination);
+    EXPECT_EQ(DescribeSection(picture), c.Words);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Members, SectionPictureTest,
+    testing::Values(SectionCase{"one piece", SpeciesGroup::HemFirDouglasFir, "4x", "10", "DF-L #2", 1, 0,
+                                "Rectangular section, 3-1/2 in. broad and 9-1/4 in. deep."},
+                    SectionCase{"built up", SpeciesGroup::HemFirDouglasFir, "(3) 2x", "12", "HF #2", 3, 0,
+                                "Rectangular section, 4-1/2 in. broad and 11-1/4 in. deep, 3 plies of 1-1/2 "
+                                "in."},
+                    SectionCase{"glulam", SpeciesGroup::HemFirDouglasFir, "5-1/8x", "21", "GLB 24F-V4 DF/DF",
+                                1, 1.5,
+                                "Rectangular section, 5-1/8 in. broad and 21 in. deep, 14 laminations of "
+                                "1-1/2 in."},
+                    SectionCase{"Southern Pine glulam", SpeciesGroup::SouthernPine, "3-1/8x", "9-5/8",
+                                "GLB 24F-V3 SP/SP", 1, 1.375,
+                                "Rectangular section, 3-1/8 in. broad and 9-5/8 in. deep, 7 laminations of "
+                                "1-3/8 in."}),
+    CaseName);
+
+TEST(SectionPicture, OfARoundMemberTellsItsDiameter)
+{
+    MemberCandidate member;
+    member.Round = true;
+    member.B = 8.5;
+    member.D = 8.5;
+    EXPECT_EQ(DescribeSection(ReadSectionPicture(member)), "Round section, 8-1/2 in. in diameter.");
+    EXPECT_EQ(DescribeSection(SectionPicture{}), "");
 }
 
 }  // namespace

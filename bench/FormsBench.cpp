@@ -1,0 +1,107 @@
+#include <benchmark/benchmark.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+
+#include "design/Selection.h"
+#include "forms/DesktopPort.h"
+#include "forms/Form.h"
+#include "forms/Walk.h"
+
+namespace kordavan {
+namespace {
+
+class SilentUser : public UserPort {
+public:
+    void Tell(const Message& /*message*/) override {}
+    bool Ask(const Message& /*question*/) override { return true; }
+};
+
+class BareDesk : public DesktopPort {
+public:
+    CalendarDay Today() override { return {.Year = 2026, .Month = 1, .Day = 2}; }
+    int MinutesSinceStart() override { return 0; }
+    void OpenFileExplorer() override {}
+    void EndProgram() override {}
+};
+
+/// A 14 ft simple beam, walked to the report of its first pick.
+struct Desk {
+    Desk()
+    {
+        session.Problem.Span = "14";
+        session.Problem.Loads.LUNIF = "200";
+        session.Problem.Loads.UNIF = "300";
+        walk.Go(Screen::Criteria);
+    }
+
+    QAbstractButton& Button(const char* name)
+    {
+        return *walk.Front()->findChild<QAbstractButton*>(QLatin1String(name));
+    }
+
+    void GoToReport()
+    {
+        Button("CmdOK").click();
+        Button("ht[0]").click();
+        Button("CmdOK").click();
+    }
+
+    Session session;
+    SilentUser user;
+    BareDesk desktop;
+    Walk walk{session, user, desktop};
+};
+
+void FirstForm(benchmark::State& state)
+{
+    while (state.KeepRunning()) {
+        Desk desk;
+        desk.walk.Front()->grab();
+    }
+}
+BENCHMARK(FirstForm)->Unit(benchmark::kMillisecond);
+
+void KeystrokeOnCriteria(benchmark::State& state)
+{
+    Desk desk;
+    auto* const box = desk.walk.Front()->findChild<QLineEdit*>(QStringLiteral("UNIF"));
+    bool isOdd = false;
+    while (state.KeepRunning()) {
+        isOdd = !isOdd;
+        box->selectAll();
+        box->insert(isOdd ? QStringLiteral("301") : QStringLiteral("300"));
+        Q_EMIT box->textEdited(box->text());
+        desk.walk.Front()->repaint();
+    }
+}
+BENCHMARK(KeystrokeOnCriteria)->Unit(benchmark::kMillisecond);
+
+void StepOnReport(benchmark::State& state)
+{
+    Desk desk;
+    desk.GoToReport();
+    bool isUp = false;
+    while (state.KeepRunning()) {
+        isUp = !isUp;
+        desk.Button(isUp ? "CmdNextSize" : "CmdNextSizeDn").click();
+        desk.walk.Front()->repaint();
+    }
+}
+BENCHMARK(StepOnReport)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace kordavan
+
+int main(int argc, char* argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

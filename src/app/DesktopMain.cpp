@@ -1,0 +1,21 @@
+#include <QApplication>
+
+#include "design/Session.h"
+#include "forms/DialogUser.h"
+#include "forms/QtDesktop.h"
+#include "forms/Walk.h"
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Kordavan"));
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    kordavan::Session session;
+    kordavan::DialogUser user;
+    kordavan::QtDesktop desktop;
+    kordavan::Walk walk(session, user, desktop);
+    walk.Go(kordavan::Screen::Criteria);
+    return QApplication::exec();
+}

@@ -1,0 +1,92 @@
+#include "design/EntryChoices.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "design/QuickPicks.h"
+#include "materials/Species.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::array<std::string_view, 11> SawnBreadths{"2x", "(2) 2x", "(3) 2x", "(4) 2x", "3x", "4x",
+                                                        "6x", "8x",     "10x",    "12x",    "14x"};
+
+SizeFamily FamilyOf(const BeamNumbers& beam)
+{
+    return beam.Group == SpeciesGroup::SouthernPine ? SizeFamily::SouthernPineListed : SizeFamily::Listed;
+}
+
+void AddOnce(std::vector<std::string_view>& texts, std::string_view text)
+{
+    if (std::find(texts.begin(), texts.end(), text) == texts.end()) {
+        texts.push_back(text);
+    }
+}
+
+void AddDepths(SizeFamily family, std::string_view breadthText, std::vector<std::string_view>& texts)
+{
+    const std::optional<Breadth> breadth = FindBreadth(family, breadthText);
+    if (!breadth) {
+        return;
+    }
+    for (const DepthChoice& depth : DepthsOf(family, *breadth)) {
+        AddOnce(texts, depth.Text);
+    }
+}
+
+/// The group's sawn species by the names of its quick picks, which those of other moisture begin with, and
+/// the glulams of its woods.
+bool IsOfGroup(const SpeciesRow& row, const QuickPicks& cells, SpeciesGroup group)
+{
+    if (row.Key == BreadthKey::Glulam) {
+        return row.SpeciesName.ends_with(" SP/SP") == (group == SpeciesGroup::SouthernPine);
+    }
+    return std::any_of(cells.begin(), cells.end(), [&row](const QuickPick& cell) {
+        return row.SpeciesName.starts_with(cell.SpeciesText);
+    });
+}
+
+}  // namespace
+
+std::vector<std::string_view> BreadthChoices(const BeamNumbers& beam)
+{
+    std::vector<std::string_view> texts(SawnBreadths.begin(), SawnBreadths.end());
+    for (const QuickPick& cell : QuickPickCells(beam)) {
+        AddOnce(texts, cell.BreadthText);
+    }
+    return texts;
+}
+
+std::vector<std::string_view> DepthChoices(const BeamNumbers& beam, std::string_view breadthText)
+{
+    std::vector<std::string_view> texts;
+    AddDepths(FamilyOf(beam), breadthText, texts);
+    if (texts.empty()) {
+        for (const std::string_view breadth : BreadthChoices(beam)) {
+            AddDepths(FamilyOf(beam), breadth, texts);
+        }
+    }
+    return texts;
+}
+
+std::vector<std::string_view> SpeciesChoices(const BeamNumbers& beam, std::string_view breadthText)
+{
+    const QuickPicks cells = QuickPickCells(beam);
+    std::vector<std::string_view> texts;
+    for (const SpeciesRow& row : SpeciesRows()) {
+        if (IsOfGroup(row, cells, beam.Group)) {
+            AddOnce(texts, row.SpeciesName);
+        }
+    }
+    if (const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam), breadthText)) {
+        std::stable_partition(texts.begin(), texts.end(), [&breadth](std::string_view species) {
+            return FindSpecies(breadth->Key, species) != nullptr;
+        });
+    }
+    return texts;
+}
+
+}  // namespace kordavan

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QColor>
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+#include <vector>
+
+#include "design/LoadPicture.h"
+
+namespace kordavan {
+
+/// Colours of a sketch, by the palette of the widget.
+struct SketchColors {
+    QColor Line;
+    QColor Text;
+    QColor Faint;
+    QColor Load;
+    QColor OverhangTotal;
+    QColor OverhangLive;
+
+    explicit SketchColors(const QPalette& palette);
+};
+
+/// Where a drawn load can be pointed at.
+struct DrawnLoad {
+    QRectF Area;
+    PictureLoad Load;
+};
+
+/// Draws a beam with its supports and loads into a rectangle.
+///
+/// Distributed loads stand in rows over the beam, as high as their size asks beside the largest; point loads
+/// are arrows down to the beam. The live part is hatched. A load without a place stands faded at the left
+/// edge.
+class BeamPainter {
+public:
+    BeamPainter(QPainter& painter, const QRectF& area, const SketchColors& colors);
+
+    std::vector<DrawnLoad> Draw(const LoadPicture& picture);
+
+private:
+    double Across(double feet) const;
+    double RowTop(int row) const;
+    int RowFor(double left, double right);
+
+    void DrawBeam(const LoadPicture& picture);
+    void DrawSupport(double x, int number);
+    void DrawDimensions(const LoadPicture& picture);
+    void DrawDistributed(const PictureLoad& load);
+    void DrawRising(const PictureLoad& load);
+    void DrawPoint(const PictureLoad& load);
+    void DrawUnplaced(const PictureLoad& load);
+    void DrawCaption(const PictureLoad& load, QPointF at, Qt::Alignment alignment);
+    QColor ColorOf(const PictureLoad& load) const;
+    QColor TintOf(const PictureLoad& load) const;
+    void Remember(const QRectF& where, const PictureLoad& load);
+
+    QPainter& painter;
+    QRectF area;
+    const SketchColors& colors;
+    double lineHeight;
+    double left = 0;
+    double right = 0;
+    double beamY = 0;
+    double perFoot = 1;
+    double largestDistributed = 0;
+    double largestPoint = 0;
+    int unplacedCount = 0;
+    SupportCondition support = SupportCondition::SimpleSpan;
+    std::vector<std::vector<std::pair<double, double>>> rows;
+    std::vector<QRectF> captions;
+    std::vector<DrawnLoad> drawn;
+};
+
+}  // namespace kordavan

@@ -1,0 +1,68 @@
+#include "forms/Bindings.h"
+
+#include <QButtonGroup>
+#include <QSignalBlocker>
+
+#include "forms/Kit.h"
+#include "forms/NumericBox.h"
+
+namespace kordavan {
+
+void Bindings::Bind(QLineEdit& box, std::string& text)
+{
+    connect(&box, &QLineEdit::textEdited, this, [this, &box, &text] {
+        text = Text(box.text());
+        Q_EMIT Edited(box.objectName());
+    });
+    BindText(box, text);
+}
+
+void Bindings::Bind(NumericBox& box, std::string& text)
+{
+    connect(&box, &NumericBox::Changed, this, [this, &box, &text] {
+        text = Text(box.text());
+        Q_EMIT Edited(box.objectName());
+    });
+    BindText(box, text);
+}
+
+void Bindings::Bind(QAbstractButton& check, bool& flag)
+{
+    connect(&check, &QAbstractButton::clicked, this, [this, &check, &flag] {
+        flag = check.isChecked();
+        Q_EMIT Edited(check.objectName());
+    });
+    shows.emplace_back([&check, &flag] { check.setChecked(flag); });
+}
+
+void Bindings::Show() const
+{
+    for (const auto& show : shows) {
+        show();
+    }
+}
+
+void Bindings::BindText(QLineEdit& box, std::string& text)
+{
+    shows.emplace_back([&box, &text] {
+        const QString shown = Text(text);
+        if (box.text() != shown) {
+            box.setText(shown);
+        }
+    });
+}
+
+/// In an exclusive group the last option could not be taken away, yet none may be chosen.
+void Bindings::SetOption(QAbstractButton& option, bool isChosen)
+{
+    QButtonGroup* const group = option.group();
+    if (group != nullptr && option.isChecked() && !isChosen) {
+        group->setExclusive(false);
+        option.setChecked(false);
+        group->setExclusive(true);
+    } else {
+        option.setChecked(isChosen);
+    }
+}
+
+}  // namespace kordavan

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <array>
+
+#include "core/BeamProblem.h"
+#include "forms/EntryGroup.h"
+
+namespace kordavan {
+
+/// Repetitive use with its spacings, and the conditions of service.
+class ConditionsGroup : public EntryGroup {
+    Q_OBJECT
+
+public:
+    explicit ConditionsGroup(const GroupContext& context);
+
+    /// Spacing and pitch can be entered while their checks are on.
+    void ShowEnabled(const BeamProblem& problem);
+
+private:
+    void AddRepetitive(BeamProblem& problem);
+    void AddService(BeamProblem& problem);
+    void AddPitch(BeamProblem& problem);
+
+    std::array<QRadioButton*, 5> spacings{};
+    NumericBox* pitch = nullptr;
+};
+
+}  // namespace kordavan

@@ -1,0 +1,196 @@
+#include "forms/Form.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace kordavan {
+
+Form::Form(Walk& theWalk, std::string_view name)
+    : currentWalk(theWalk),
+      scroll(new QScrollArea),
+      body(new QVBoxLayout),
+      footArea(new QWidget),
+      foot(new QHBoxLayout(footArea))
+{
+    setObjectName(Text(name));
+    auto* const contents = new QWidget;
+    contents->setLayout(body);
+    scroll->setWidget(contents);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+
+    auto* const all = new QWidget;
+    auto* const column = new QVBoxLayout(all);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(scroll, 1);
+    column->addWidget(MakeRule());
+    column->addWidget(footArea);
+    setCentralWidget(all);
+}
+
+void Form::FocusOn(std::string_view control)
+{
+    auto* const target = findChild<QWidget*>(Text(control));
+    if (target == nullptr || !target->isEnabled() || !target->isVisibleTo(this) ||
+        target->focusPolicy() == Qt::NoFocus) {
+        return;
+    }
+    target->setFocus(Qt::OtherFocusReason);
+    if (auto* const box = qobject_cast<QLineEdit*>(target)) {
+        box->selectAll();
+    }
+    scroll->ensureWidgetVisible(target);
+}
+
+void Form::FitToScreen()
+{
+    const QSize room = QApplication::primaryScreen()->availableGeometry().size();
+    resize(sizeHint().boundedTo(room));
+}
+
+QSize Form::sizeHint() const
+{
+    const QSize inner = scroll->widget()->sizeHint();
+    const QSize below = footArea->sizeHint();
+    constexpr int rule = 4;
+    const int height = inner.height() + below.height() + menuBar()->sizeHint().height() + rule;
+    return {std::max(inner.width(), below.width()), height};
+}
+
+QMenu& Form::AddMenu(std::string_view caption)
+{
+    return *menuBar()->addMenu(Text(caption));
+}
+
+QAction& Form::AddCommand(QMenu& menu, const ControlText& text, std::string_view caption,
+                          const std::function<void()>& run, const QKeySequence& keys)
+{
+    QAction* const action = menu.addAction(Text(caption));
+    action->setObjectName(Text(text.Name));
+    action->setStatusTip(Text(text.Tip));
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, run);
+    return *action;
+}
+
+void Form::AddExitCommand(QMenu& file)
+{
+    file.addSeparator();
+    AddCommand(
+        file, {"MnuExit"}, "E&xit", [this] { currentWalk.AskToExit(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
+}
+
+void Form::AddToolsMenu()
+{
+    QMenu& tools = AddMenu("&Tools");
+    AddCommand(
+        tools, {"MnuCalc"}, "&Calculator", [this] { currentWalk.ShowBeside(Screen::Calculator); },
+        QKeySequence(Qt::Key_F9));
+    AddCommand(
+        tools, {"MnuNotes"}, "&Notes", [this] { currentWalk.ShowBeside(Screen::Notes); },
+        QKeySequence(Qt::CTRL | Qt::Key_T));
+}
+
+HelpButton* Form::MakeHelp(const HelpText& help, std::initializer_list<std::string_view> boxes)
+{
+    auto* const button = new HelpButton(help.Button, help.Topic, boxes);
+    connect(button, &QToolButton::clicked, this, [this, &help] { TellHelp(help.Text); });
+    return button;
+}
+
+void Form::TellHelp(std::string_view text)
+{
+    Message message = Alert(text);
+    message.Icon = MessageIcon::Information;
+    User().Tell(message);
+}
+
+void Form::AddHelpMenu(std::string_view page)
+{
+    pageText = page;
+    QMenu& menu = AddMenu("&Help");
+    AddCommand(
+        menu, {"MnuHelp"}, "&This Form", [this] { TellHelp(pageText); }, QKeySequence(Qt::Key_F1));
+    const QList<HelpButton*> buttons = findChildren<HelpButton*>();
+    if (!buttons.isEmpty()) {
+        menu.addSeparator();
+    }
+    for (HelpButton* const button : buttons) {
+        QAction* const topic = menu.addAction(button->Topic());
+        connect(topic, &QAction::triggered, button, &QToolButton::click);
+    }
+}
+
+void Form::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    CloseAsked();
+}
+
+void Form::CloseAsked()
+{
+    currentWalk.AskToExit();
+}
+
+void Form::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            PressDefault();
+            return;
+        case Qt::Key_Escape:
+            GoBack();
+            return;
+        case Qt::Key_F1:
+            if (event->modifiers() == Qt::ShiftModifier) {
+                HelpOnFocus();
+                return;
+            }
+            break;
+        default:
+            break;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+/// A button in focus is pressed itself; from anywhere else Enter means the default command.
+void Form::PressDefault()
+{
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) {
+        button->click();
+        return;
+    }
+    QAbstractButton* const command = DefaultCommand();
+    if (command != nullptr && command->isEnabled()) {
+        command->click();
+    }
+}
+
+void Form::HelpOnFocus()
+{
+    const QWidget* const focus = focusWidget();
+    if (focus == nullptr) {
+        return;
+    }
+    for (HelpButton* const button : findChildren<HelpButton*>()) {
+        if (button->Explains(focus->objectName())) {
+            button->click();
+            return;
+        }
+    }
+    TellHelp(pageText);
+}
+
+}  // namespace kordavan

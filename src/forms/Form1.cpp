@@ -1,0 +1,310 @@
+#include "forms/Form1.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+#include <exception>
+#include <vector>
+
+#include "design/CalculateAction.h"
+#include "design/CriteriaScreen.h"
+#include "design/EntryAdjustment.h"
+#include "design/LoadPicture.h"
+#include "design/NewBeam.h"
+#include "forms/ConditionsGroup.h"
+#include "forms/Form4.h"
+#include "forms/HipValleyGroup.h"
+#include "forms/LoadSketch.h"
+#include "forms/MultiSpanGroup.h"
+#include "forms/PartialLoadGroup.h"
+#include "forms/PointLoadGroup.h"
+#include "forms/SpanGroup.h"
+#include "forms/SupportGroup.h"
+#include "forms/UniformLoadGroup.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr int MostProject = 35;
+constexpr int MostItem = 25;
+constexpr int MostDescription = 30;
+
+/// The groups that have a selection screen, in the order of the list.
+constexpr std::array MaterialsOffered{
+    SpeciesGroup::HemFirDouglasFir,
+    SpeciesGroup::CedarWesternWoods,
+    SpeciesGroup::EasternSpecies,
+    SpeciesGroup::DouglasFirSouthNorth,
+    SpeciesGroup::SprucePineFir,
+    SpeciesGroup::SouthernPine,
+    SpeciesGroup::Oak,
+};
+
+constexpr std::string_view Page =
+    "CRITERIA\n\n"
+    "Enter the span, the limits and the loads of the beam, choose its material and press Enter or OK "
+    "Calculate. LL is the live load, LL+DL the total of live and dead load; the weight of the beam is added "
+    "by itself. The sketch follows what you type; click a load in it to go to its row.\n\n"
+    "The small gray squares explain what they stand beside; Shift+F1 presses the one of the box you are in. "
+    "Insert takes the number from the calculator. Ctrl+Delete empties a row of loads, Ctrl+Shift+Delete the "
+    "whole table.";
+
+Screen DiagramOf(SupportCondition support)
+{
+    switch (support) {
+        case SupportCondition::Overhanging:
+            return Screen::OverhangDiagram;
+        case SupportCondition::HipValley:
+            return Screen::HipDiagram;
+        case SupportCondition::SimpleSpan:
+        case SupportCondition::MultipleSpans:
+            break;
+    }
+    return Screen::SimpleDiagram;
+}
+
+void TellFault(std::string_view what, UserPort& user)
+{
+    Message message = Alert(what);
+    message.Title = "Kordavan Error: Form 1";
+    message.Icon = MessageIcon::Warning;
+    user.Tell(message);
+}
+
+}  // namespace
+
+Form1::Form1(Walk& walk)
+    : Form(walk, "Form1"),
+      numbers{.User = walk.User(), .CalculatorText = [&walk] { return walk.CalculatorText(); }},
+      context{.Owner = *this,
+              .Boxes = bindings,
+              .Numbers = numbers,
+              .Beam = walk.CurrentSession(),
+              .Apply = [this](const SessionChange& change) { return Apply(change); }}
+{
+    sketch = new LoadSketch;
+    Body().addLayout(MakeHead());
+    Body().addLayout(MakeCriteria());
+    Body().addWidget(sketch, 1);
+    Body().addLayout(MakeLoads());
+    MakeFoot();
+    MakeMenus();
+    OrderTabs();
+    gauge = new Form4(*this);
+    connect(&bindings, &Bindings::Edited, this, &Form1::AfterEdit);
+    connect(sketch, &LoadSketch::LoadChosen, this, [this](const QString& box) { FocusOn(Text(box)); });
+    connect(supportGroup, &SupportGroup::DiagramAsked, this, &Form1::ShowDiagram);
+    Refresh();
+    FocusOn("Proj");
+}
+
+void Form1::Activate()
+{
+    RestoreEntries(TheSession());
+    Refresh();
+}
+
+QAbstractButton* Form1::DefaultCommand()
+{
+    return DescribeCriteriaScreen(TheSession()).MustCalculateHipLoad ? &hipGroup->CalculateCommand()
+                                                                     : calculate;
+}
+
+void Form1::GoBack()
+{
+    partialCalculator->PutAway();
+}
+
+QLayout* Form1::MakeHead()
+{
+    BeamProblem& problem = TheSession().Problem;
+    auto* const head = new QHBoxLayout;
+    const auto add = [&](const ControlText& text, int most, std::string_view caption, std::string& bound,
+                         int stretch) {
+        QLineEdit* const box = MakeTextBox(text, most);
+        bindings.Bind(*box, bound);
+        head->addWidget(MakeCaption(caption, *box));
+        head->addWidget(box, stretch);
+    };
+    add({.Name = "Proj", .Tip = "Name of the project"}, MostProject, "Pro&ject", problem.Proj, 3);
+    add({.Name = "ID", .Tip = "Item: the beam's mark on the plans"}, MostItem, "&Item", problem.ID, 2);
+    add({.Name = "Descrip", .Tip = "Description of the beam"}, MostDescription, "Descri&ption",
+        problem.Descrip, 3);
+    material = new QComboBox;
+    Describe(*material, {.Name = "Combo1", .Tip = "Material of the beam"});
+    for (const SpeciesGroup group : MaterialsOffered) {
+        material->addItem(Text(SpeciesGroups[static_cast<std::size_t>(group)].Text), static_cast<int>(group));
+    }
+    connect(material, &QComboBox::activated, this, [this](int index) {
+        const auto group = static_cast<SpeciesGroup>(material->itemData(index).toInt());
+        Apply([group](Session& session, UserPort& user) {
+            return ChangeEntries(session, user, [group](Session& changed, UserPort& /*user*/) {
+                changed.Problem.Combo1 = group;
+                return Outcome::Done;
+            });
+        });
+    });
+    head->addWidget(MakeCaption("&Material", *material));
+    head->addWidget(material);
+    return head;
+}
+
+QLayout* Form1::MakeCriteria()
+{
+    auto* const row = new QHBoxLayout;
+    supportGroup = new SupportGroup(context);
+    spanGroup = new SpanGroup(context);
+    conditionsGroup = new ConditionsGroup(context);
+    row->addWidget(supportGroup);
+    row->addWidget(spanGroup);
+    row->addWidget(conditionsGroup, 1);
+    return row;
+}
+
+QLayout* Form1::MakeLoads()
+{
+    auto* const row = new QHBoxLayout;
+    uniformGroup = new UniformLoadGroup(context, TheWalk().LoadPairs);
+    hipGroup = new HipValleyGroup(context);
+    multiGroup = new MultiSpanGroup(context);
+    tables = new QStackedWidget;
+    tables->addWidget(MakePointAndPartialPage());
+    tables->addWidget(hipGroup);
+    tables->addWidget(multiGroup);
+    row->addWidget(uniformGroup);
+    row->addWidget(tables, 1);
+    connect(uniformGroup, &UniformLoadGroup::Multiplied, this, [this] {
+        multiplied = TheSession().Problem.Loads;
+        Refresh();
+    });
+    connect(hipGroup, &HipValleyGroup::Calculated, this, [this] { FocusOn("CmdOK"); });
+    return row;
+}
+
+QWidget* Form1::MakePointAndPartialPage()
+{
+    auto* const page = new QWidget;
+    auto* const line = new QHBoxLayout(page);
+    line->setContentsMargins(0, 0, 0, 0);
+    pointGroup = new PointLoadGroup(context);
+    partialCalculator = new PartialCalculator(context);
+    partialGroup = new PartialLoadGroup(context);
+    line->addWidget(pointGroup);
+    line->addWidget(partialCalculator);
+    line->addWidget(partialGroup);
+    line->addStretch(1);
+    connect(partialGroup, &PartialLoadGroup::CalculatorAsked, partialCalculator, &PartialCalculator::Open);
+    connect(partialCalculator, &PartialCalculator::Opened, this, [this] { calculate->setEnabled(false); });
+    connect(partialCalculator, &PartialCalculator::Closed, this, [this] { calculate->setEnabled(true); });
+    return page;
+}
+
+void Form1::MakeFoot()
+{
+    resultLine = MakePanel("SavePanel");
+    calculate = MakeButton({.Name = "CmdOK", .Tip = "Check the entries and go on to the selection (Enter)"},
+                           "O&K Calculate");
+    connect(calculate, &QPushButton::clicked, this, &Form1::Calculate);
+    Foot().addWidget(resultLine, 1);
+    Foot().addWidget(calculate);
+}
+
+void Form1::MakeMenus()
+{
+    QMenu& file = AddMenu("&File");
+    AddCommand(
+        file, {"MnuNew"}, "&New Beam", [this] { StartNew(); }, QKeySequence::New);
+    AddCommand(file, {"MnuExplorer"}, "Open File &Explorer",
+               [this] { TheWalk().Desktop().OpenFileExplorer(); });
+    AddExitCommand(file);
+    AddToolsMenu();
+    AddHelpMenu(Page);
+}
+
+void Form1::OrderTabs()
+{
+    std::vector<QWidget*> order;
+    for (const char* const name : {"Proj", "ID", "Descrip"}) {
+        order.push_back(findChild<QLineEdit*>(QLatin1String(name)));
+    }
+    order.insert(order.end(), {material, supportGroup, spanGroup, conditionsGroup, sketch, uniformGroup,
+                               pointGroup, partialCalculator, partialGroup, hipGroup, multiGroup, calculate});
+    ChainTabStops(order);
+}
+
+Outcome Form1::Apply(const SessionChange& change)
+{
+    const SupportCondition before = TheSession().Problem.Support;
+    const Outcome outcome = change(TheSession(), User());
+    if (TheSession().Problem.Support != before) {
+        partialCalculator->PutAway();
+    }
+    Refresh();
+    return outcome;
+}
+
+void Form1::AfterEdit(const QString& box)
+{
+    EntryEdited(TheSession(), Text(box));
+    Refresh();
+}
+
+void Form1::Refresh()
+{
+    const Session& session = TheSession();
+    const CriteriaScreen screen = DescribeCriteriaScreen(session);
+    bindings.Show();
+    setWindowTitle(Text(screen.Title));
+    material->setCurrentIndex(material->findData(static_cast<int>(session.Problem.Combo1)));
+    spanGroup->ShowScreen(screen);
+    conditionsGroup->ShowEnabled(session.Problem);
+    uniformGroup->ShowScreen(screen);
+    pointGroup->ShowScreen(screen);
+    partialGroup->ShowScreen(screen);
+    hipGroup->ShowScreen(screen);
+    multiGroup->ShowScreen(screen);
+    tables->setCurrentIndex(static_cast<int>(screen.Tables));
+    if (multiplied && *multiplied != session.Problem.Loads) {
+        multiplied.reset();
+    }
+    uniformGroup->ShowMultiplied(multiplied.has_value());
+    sketch->Show(ReadLoadPicture(session));
+    resultLine->setText(Text(screen.SavePanel));
+    calculate->setDefault(!screen.MustCalculateHipLoad);
+}
+
+void Form1::ShowDiagram(SupportCondition support)
+{
+    TheWalk().ShowBeside(DiagramOf(support));
+}
+
+void Form1::StartNew()
+{
+    if (OfferNewBeam(TheSession(), User()) == Outcome::Done) {
+        partialCalculator->PutAway();
+        Refresh();
+        FocusOn("Proj");
+    }
+}
+
+void Form1::Calculate()
+{
+    const Progress progress([this](int percent) { gauge->Reach(percent); });
+    try {
+        if (CalculateAction(TheSession(), User(), progress) == Outcome::Done) {
+            ++TheWalk().AnalysisCount;
+            TheWalk().Go(Screen::WoodSelection);
+        } else {
+            Refresh();
+        }
+    } catch (const std::exception& fault) {
+        TellFault(fault.what(), User());
+    }
+    gauge->hide();
+}
+
+}  // namespace kordavan

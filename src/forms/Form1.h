@@ -1,0 +1,78 @@
+#pragma once
+
+#include <optional>
+
+#include "forms/Bindings.h"
+#include "forms/EntryGroup.h"
+#include "forms/Form.h"
+#include "forms/NumericBox.h"
+
+class QComboBox;
+class QStackedWidget;
+
+namespace kordavan {
+
+class ConditionsGroup;
+class Form4;
+class HipValleyGroup;
+class LoadSketch;
+class MultiSpanGroup;
+class PartialCalculator;
+class PartialLoadGroup;
+class PointLoadGroup;
+class SpanGroup;
+class SupportGroup;
+class UniformLoadGroup;
+
+/// The criteria of the beam: the first screen.
+class Form1 : public Form {
+    Q_OBJECT
+
+public:
+    explicit Form1(Walk& walk);
+
+    void Activate() override;
+
+protected:
+    QAbstractButton* DefaultCommand() override;
+    void GoBack() override;
+
+private:
+    QLayout* MakeHead();
+    QLayout* MakeCriteria();
+    QLayout* MakeLoads();
+    QWidget* MakePointAndPartialPage();
+    void MakeFoot();
+    void MakeMenus();
+    void OrderTabs();
+
+    Outcome Apply(const SessionChange& change);
+    void AfterEdit(const QString& box);
+    void Refresh();
+    void ShowDiagram(SupportCondition support);
+    void StartNew();
+    void Calculate();
+
+    Bindings bindings;
+    NumericBoxContext numbers;
+    GroupContext context;
+    std::optional<LoadSet> multiplied;  // the loads as the uniform calculator left them
+
+    SupportGroup* supportGroup = nullptr;
+    SpanGroup* spanGroup = nullptr;
+    ConditionsGroup* conditionsGroup = nullptr;
+    LoadSketch* sketch = nullptr;
+    UniformLoadGroup* uniformGroup = nullptr;
+    QStackedWidget* tables = nullptr;
+    PointLoadGroup* pointGroup = nullptr;
+    PartialCalculator* partialCalculator = nullptr;
+    PartialLoadGroup* partialGroup = nullptr;
+    HipValleyGroup* hipGroup = nullptr;
+    MultiSpanGroup* multiGroup = nullptr;
+    QComboBox* material = nullptr;
+    QLabel* resultLine = nullptr;
+    QPushButton* calculate = nullptr;
+    Form4* gauge = nullptr;
+};
+
+}  // namespace kordavan

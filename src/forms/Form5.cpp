@@ -1,0 +1,332 @@
+#include "forms/Form5.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <optional>
+
+#include "design/NewBeam.h"
+#include "design/ReportNotes.h"
+#include "design/SectionPicture.h"
+#include "forms/NoteLine.h"
+#include "forms/ReportTable.h"
+#include "forms/SectionSketch.h"
+#include "forms/StatusColor.h"
+#include "forms/StatusSign.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view Page =
+    "TEST REPORT\n\n"
+    "The report shows what the loads ask of the member and what it has. OK means that it passes, Fail that "
+    "it does not.\n\n"
+    "The buttons at the bottom step to the next size without going back: + and - step the depth, with Ctrl "
+    "the breadth. The rows keep their places, so that sizes can be compared.\n\n"
+    "OK  Select Member, or Enter, puts the member on record. Esc leads back to the selection.";
+
+constexpr std::array AllSteps{SizeStep::DepthDown, SizeStep::DepthUp, SizeStep::BreadthDown,
+                              SizeStep::BreadthUp};
+static_assert(AllSteps.size() == SizeStepCount);
+
+SizeStep Opposite(SizeStep step)
+{
+    switch (step) {
+        case SizeStep::DepthUp:
+            return SizeStep::DepthDown;
+        case SizeStep::DepthDown:
+            return SizeStep::DepthUp;
+        case SizeStep::BreadthUp:
+            return SizeStep::BreadthDown;
+        case SizeStep::BreadthDown:
+            break;
+    }
+    return SizeStep::BreadthUp;
+}
+
+/// Plus also without Shift, where it shares its key with the equals sign.
+std::optional<SizeStep> StepOf(const QKeyEvent& event)
+{
+    if (event.modifiers().testFlag(Qt::AltModifier)) {
+        return std::nullopt;
+    }
+    const bool ofBreadth = event.modifiers().testFlag(Qt::ControlModifier);
+    switch (event.key()) {
+        case Qt::Key_Plus:
+        case Qt::Key_Equal:
+            return ofBreadth ? SizeStep::BreadthUp : SizeStep::DepthUp;
+        case Qt::Key_Minus:
+            return ofBreadth ? SizeStep::BreadthDown : SizeStep::DepthDown;
+        default:
+            return std::nullopt;
+    }
+}
+
+void Enlarge(QLabel& label)
+{
+    constexpr double larger = 1.5;
+    QFont font = label.font();
+    font.setPointSizeF(font.pointSizeF() * larger);
+    font.setBold(true);
+    label.setFont(font);
+}
+
+/// A line that takes no more room than its text.
+QLabel* MakeFact(std::string_view name)
+{
+    QLabel* const fact = MakeNamedLabel(name);
+    fact->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return fact;
+}
+
+/// Texts that need as much room as any in their place.
+std::string LongestNoSplit()
+{
+    MemberTestResult result;
+    result.NoSplits = true;
+    return NoSplitText(result);
+}
+
+std::string LongestDeflectionAlert()
+{
+    MemberTestResult result;
+    result.TotalDeflection = 1;
+    return LargeDeflectionText(result);
+}
+
+}  // namespace
+
+Form5::Form5(Walk& theWalk) : Form(theWalk, "Form5")
+{
+    setWindowTitle(tr("Beam Test Report"));
+    BuildHeader();
+    BuildTable();
+    BuildLines();
+    BuildNotes();
+    BuildStepping();
+    BuildFoot();
+    BuildMenus();
+    for (std::size_t index = 0; index < fields.size(); ++index) {
+        fields[index] = findChild<QLabel*>(Text(TestReportFields[index].Name));
+    }
+    ShowReport();
+}
+
+void Form5::Activate()
+{
+    ShowReport();
+    selectButton->setFocus(Qt::OtherFocusReason);
+}
+
+QAbstractButton* Form5::DefaultCommand()
+{
+    return selectButton;
+}
+
+void Form5::GoBack()
+{
+    TheWalk().Go(Screen::WoodSelection);
+}
+
+void Form5::keyPressEvent(QKeyEvent* event)
+{
+    if (const std::optional<SizeStep> step = StepOf(*event)) {
+        OnStep(*step);
+        return;
+    }
+    Form::keyPressEvent(event);
+}
+
+/// The colours of statuses are worked out from the palette.
+void Form5::changeEvent(QEvent* event)
+{
+    Form::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && isVisible()) {
+        ShowReport();
+    }
+}
+
+void Form5::BuildHeader()
+{
+    QLabel* const member = MakePanel("DisplayChoice");
+    Enlarge(*member);
+    auto* const grid = new QGridLayout;
+    grid->addWidget(member, 0, 0);
+    grid->addWidget(MakeFact("GradeLabel"), 0, 1);
+    grid->addWidget(MakePanel("Label5"), 1, 0);
+    grid->addWidget(MakeFact("Modifiers"), 1, 1);
+    Body().addLayout(grid);
+    Body().addWidget(MakeRule());
+}
+
+void Form5::BuildTable()
+{
+    table = new ReportTable(MakeHelp(HelpTexts::ReadingTheReport, {"Command1", "Command2"}));
+    sketch = new SectionSketch;
+    auto* const line = new QHBoxLayout;
+    line->addWidget(table, 0, Qt::AlignTop);
+    line->addWidget(sketch, 1);
+    Body().addLayout(line, 1);
+}
+
+void Form5::BuildLines()
+{
+    auto* const grid = new QGridLayout;
+    grid->setHorizontalSpacing(DigitsWidth(*this, 6));
+    grid->addWidget(MakePanel("Label11"), 0, 0);
+    grid->addWidget(MakePanel("Label6"), 0, 1);
+    grid->addWidget(MakePanel("Label10"), 1, 0);
+    grid->addWidget(MakePanel("Label15"), 1, 1);
+    Body().addWidget(MakeRule());
+    Body().addLayout(grid);
+}
+
+void Form5::BuildNotes()
+{
+    auto* const unbalanced = new NoteLine("Unbalancedlabel", " ", NoteKind::Plain);
+    unbalanced->Append(MakeHelp(HelpTexts::UnbalancedLoads, {}));
+    AddNote(new NoteLine("DeadDefl", " ", NoteKind::Plain));
+    AddNote(new NoteLine("SmallChoice", " ", NoteKind::Plain));
+    AddNote(new NoteLine("DeflTooHigh", LongestDeflectionAlert(), NoteKind::Alert));
+    AddNote(new NoteLine("NoSplitLabel", LongestNoSplit(), NoteKind::Alert));
+    AddNote(unbalanced);
+    Body().addStretch(1);
+}
+
+void Form5::AddNote(NoteLine* note)
+{
+    notes.push_back(note);
+    Body().addWidget(note);
+}
+
+void Form5::BuildStepping()
+{
+    ButtonOf(SizeStep::DepthDown) =
+        MakeButton({.Name = "CmdNextSizeDn", .Tip = "Next smaller depth (-)"}, "&Depth -");
+    ButtonOf(SizeStep::DepthUp) =
+        MakeButton({.Name = "CmdNextSize", .Tip = "Next larger depth (+)"}, "D&epth +");
+    ButtonOf(SizeStep::BreadthDown) =
+        MakeButton({.Name = "CmdNextWidthDn", .Tip = "Next smaller breadth (Ctrl -)"}, "B&readth -");
+    ButtonOf(SizeStep::BreadthUp) =
+        MakeButton({.Name = "CmdNextWidth", .Tip = "Next larger breadth (Ctrl +)"}, "Bre&adth +");
+    auto* const line = new QHBoxLayout;
+    for (const SizeStep step : AllSteps) {
+        QPushButton* const button = ButtonOf(step);
+        connect(button, &QPushButton::clicked, this, [this, step] { OnStep(step); });
+        line->addWidget(button);
+        if (step == SizeStep::DepthUp) {
+            line->addSpacing(DigitsWidth(*this, 4));
+        }
+    }
+    line->addStretch(1);
+    Body().addLayout(line);
+}
+
+void Form5::BuildFoot()
+{
+    overall = MakePanel("OverallStatus");
+    Enlarge(*overall);
+    overallSign = new StatusSign(QStringLiteral("OverallSign"));
+    overallSign->setFont(overall->font());
+    QPushButton* const notesButton =
+        MakeButton({.Name = "Command1", .Tip = "Notes for the foot of the record"}, " Add &Notes");
+    selectButton =
+        MakeButton({.Name = "Command2", .Tip = "Puts this member on record"}, "OK  &Select Member");
+    selectButton->setDefault(true);
+    connect(notesButton, &QPushButton::clicked, this, [this] { TheWalk().ShowBeside(Screen::Notes); });
+    connect(selectButton, &QPushButton::clicked, this, &Form5::OnSelectMember);
+    Foot().addWidget(overallSign);
+    Foot().addWidget(overall, 1);
+    Foot().addWidget(notesButton);
+    Foot().addWidget(selectButton);
+}
+
+void Form5::BuildMenus()
+{
+    QMenu& file = AddMenu("&File");
+    AddCommand(file, {"MnuNew", "Begins another beam"}, "&New Beam", [this] { OnNewBeam(); });
+    AddCommand(file, {"MnuExit", "Ends the program"}, "E&xit", [this] { TheWalk().AskToExit(); });
+    QMenu& goTo = AddMenu("&Go to");
+    AddCommand(goTo, {"MnuBack", "Back to the selection (Esc)"}, "&Selection Form 2", [this] { GoBack(); });
+    AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
+               [this] { TheWalk().Go(Screen::Criteria); });
+    QMenu& tools = AddMenu("&Tools");
+    AddCommand(tools, {"MnuCalc", "A calculator beside this form"}, "&Calculator",
+               [this] { TheWalk().ShowBeside(Screen::Calculator); });
+    AddCommand(tools, {"MnuNotes", "Notes for the record"}, "&Notes",
+               [this] { TheWalk().ShowBeside(Screen::Notes); });
+    AddHelpMenu(Page);
+    QAction* const back = menuBar()->addAction(tr("&Back"));
+    back->setObjectName(QStringLiteral("backmnu"));
+    back->setStatusTip(tr("Back to the selection (Esc)"));
+    connect(back, &QAction::triggered, this, &Form5::GoBack);
+}
+
+void Form5::ShowReport()
+{
+    const TestReport report = MakeTestReport(TheSession());
+    for (std::size_t index = 0; index < fields.size(); ++index) {
+        fields[index]->setText(Text(report.*TestReportFields[index].Text));
+    }
+    table->Show(report);
+    sketch->Show(ReadSectionPicture(TheSession().Member.Candidate));
+    for (NoteLine* const note : notes) {
+        note->Show();
+    }
+    ShowOverall();
+    ShowStepping();
+}
+
+void Form5::ShowOverall()
+{
+    const MemberTestResult& result = TheSession().Member.Result;
+    const bool fails = result.Overall == StatusFail;
+    overall->setText(Text(OverallText(result)));
+    PaintStatus(*overall, fails);
+    const Sign passes = result.NoSplits ? Sign::Alert : Sign::Passes;
+    overallSign->Show(fails ? Sign::Fails : passes);
+}
+
+/// A button that is switched off hands its focus to its twin.
+void Form5::ShowStepping()
+{
+    const QWidget* const focused = focusWidget();
+    for (const SizeStep step : AllSteps) {
+        ButtonOf(step)->setEnabled(NextEntry(TheSession(), step).has_value());
+    }
+    for (const SizeStep step : AllSteps) {
+        if (focused != nullptr && focused == ButtonOf(step) && !focused->isEnabled()) {
+            QPushButton* const twin = ButtonOf(Opposite(step));
+            (twin->isEnabled() ? twin : selectButton)->setFocus(Qt::OtherFocusReason);
+        }
+    }
+}
+
+void Form5::OnStep(SizeStep step)
+{
+    if (StepMember(TheSession(), step, User()) == Outcome::Done) {
+        ShowReport();
+    }
+}
+
+void Form5::OnNewBeam()
+{
+    if (OfferNewBeamAfterReport(TheSession(), User()) == Outcome::Done) {
+        TheWalk().Go(Screen::Criteria);
+    }
+}
+
+void Form5::OnSelectMember()
+{
+    SelectMember(TheSession(), TheWalk().Desktop().Today());
+    TheWalk().Go(Screen::Criteria);
+}
+
+}  // namespace kordavan

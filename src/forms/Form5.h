@@ -1,0 +1,66 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "design/Selection.h"
+#include "design/TestReport.h"
+#include "forms/Form.h"
+
+class QLabel;
+class QPushButton;
+
+namespace kordavan {
+
+class NoteLine;
+class ReportTable;
+class SectionSketch;
+class StatusSign;
+
+inline constexpr std::size_t SizeStepCount = 4;
+
+/// The report of the member tested last, from which its size can be stepped up and down.
+class Form5 : public Form {
+    Q_OBJECT
+
+public:
+    explicit Form5(Walk& walk);
+
+    void Activate() override;
+
+protected:
+    QAbstractButton* DefaultCommand() override;
+    void GoBack() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void BuildHeader();
+    void BuildTable();
+    void BuildLines();
+    void BuildNotes();
+    void BuildStepping();
+    void BuildFoot();
+    void BuildMenus();
+    void AddNote(NoteLine* note);
+
+    void ShowReport();
+    void ShowOverall();
+    void ShowStepping();
+    void OnStep(SizeStep step);
+    void OnNewBeam();
+    void OnSelectMember();
+
+    QPushButton*& ButtonOf(SizeStep step) { return stepButtons[static_cast<std::size_t>(step)]; }
+
+    std::array<QLabel*, TestReportFields.size()> fields{};
+    std::array<QPushButton*, SizeStepCount> stepButtons{};
+    std::vector<NoteLine*> notes;
+    ReportTable* table = nullptr;
+    SectionSketch* sketch = nullptr;
+    StatusSign* overallSign = nullptr;
+    QLabel* overall = nullptr;
+    QPushButton* selectButton = nullptr;
+};
+
+}  // namespace kordavan

@@ -1,0 +1,38 @@
+#include "forms/QtDesktop.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QDesktopServices>
+#include <QDir>
+#include <QUrl>
+
+namespace kordavan {
+
+QtDesktop::QtDesktop()
+{
+    sinceStart.start();
+}
+
+CalendarDay QtDesktop::Today()
+{
+    const QDate today = QDate::currentDate();
+    return {.Year = today.year(), .Month = today.month(), .Day = today.day()};
+}
+
+int QtDesktop::MinutesSinceStart()
+{
+    constexpr qint64 millisecondsPerMinute = 60000;
+    return static_cast<int>(sinceStart.elapsed() / millisecondsPerMinute);
+}
+
+void QtDesktop::OpenFileExplorer()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::currentPath()));
+}
+
+void QtDesktop::EndProgram()
+{
+    QCoreApplication::quit();
+}
+
+}  // namespace kordavan

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QElapsedTimer>
+
+#include "forms/DesktopPort.h"
+
+namespace kordavan {
+
+/// The desk that the program runs on.
+class QtDesktop : public DesktopPort {
+public:
+    QtDesktop();
+
+    CalendarDay Today() override;
+    int MinutesSinceStart() override;
+    void OpenFileExplorer() override;
+    void EndProgram() override;
+
+private:
+    QElapsedTimer sinceStart;
+};
+
+}  // namespace kordavan

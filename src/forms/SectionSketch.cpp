@@ -1,0 +1,119 @@
+#include "forms/SectionSketch.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "forms/BeamPainter.h"
+#include "forms/Kit.h"
+
+namespace kordavan {
+
+namespace {
+
+/// A line between two ticks.
+void DrawDimension(QPainter& painter, QPointF from, QPointF to, double tick)
+{
+    const QPointF across = from.x() == to.x() ? QPointF(tick, 0) : QPointF(0, tick);
+    painter.drawLine(from, to);
+    painter.drawLine(from - across, from + across);
+    painter.drawLine(to - across, to + across);
+}
+
+}  // namespace
+
+SectionSketch::SectionSketch()
+{
+    Describe(*this, {.Name = "SectionSketch", .Tip = "The section to scale, with its net sizes"});
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    constexpr int mostLinesHigh = 20;
+    setMaximumHeight(mostLinesHigh * fontMetrics().height());
+}
+
+void SectionSketch::Show(const SectionPicture& newPicture)
+{
+    picture = newPicture;
+    setAccessibleDescription(Text(DescribeSection(picture)));
+    update();
+}
+
+QSize SectionSketch::sizeHint() const
+{
+    constexpr int digitsWide = 30;
+    constexpr int linesHigh = 12;
+    return {DigitsWidth(*this, digitsWide), linesHigh * fontMetrics().height()};
+}
+
+/// Centred, with room for the depth at its left and for two lines below.
+QRectF SectionSketch::SectionArea() const
+{
+    const double line = fontMetrics().height();
+    const double side = fontMetrics().horizontalAdvance(Text(picture.DText)) + 1.2 * line;
+    const QRectF room = QRectF(rect()).adjusted(side, 0.6 * line, -side, -3.2 * line);
+    const double perInch = std::min(room.width() / picture.B, room.height() / picture.D);
+    QRectF section(0, 0, picture.B * perInch, picture.D * perInch);
+    section.moveCenter(room.center());
+    return section;
+}
+
+void SectionSketch::paintEvent(QPaintEvent* /*event*/)
+{
+    if (picture.B <= 0) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const SketchColors colors(palette());
+    const QRectF section = SectionArea();
+    DrawSection(painter, colors, section);
+    DrawSizes(painter, colors, section);
+}
+
+void SectionSketch::DrawSection(QPainter& painter, const SketchColors& colors, const QRectF& section) const
+{
+    constexpr float tintOfWood = 0.2F;
+    QColor tint = colors.Load;
+    tint.setAlphaF(tintOfWood);
+    painter.setBrush(tint);
+    painter.setPen(QPen(colors.Line, 2));
+    if (picture.IsRound) {
+        painter.drawEllipse(section);
+        return;
+    }
+    painter.drawRect(section);
+    const double ply = section.width() / picture.PlyCount;
+    for (int joint = 1; joint < picture.PlyCount; ++joint) {
+        const double x = section.left() + joint * ply;
+        painter.drawLine(QPointF(x, section.top()), QPointF(x, section.bottom()));
+    }
+    if (picture.Lamination > 0) {
+        const double lamination = section.height() * picture.Lamination / picture.D;
+        const int count = qRound(picture.D / picture.Lamination);
+        painter.setPen(QPen(colors.Faint, 1));
+        for (int joint = 1; joint < count; ++joint) {
+            const double y = section.bottom() - joint * lamination;
+            painter.drawLine(QPointF(section.left() + 1, y), QPointF(section.right() - 1, y));
+        }
+    }
+}
+
+void SectionSketch::DrawSizes(QPainter& painter, const SketchColors& colors, const QRectF& section) const
+{
+    const double line = fontMetrics().height();
+    const double gap = 0.5 * line;
+    const double tick = 0.25 * line;
+    painter.setPen(QPen(colors.Line, 1));
+    const double left = section.left() - gap;
+    const double below = section.bottom() + gap;
+    DrawDimension(painter, {left, section.top()}, {left, section.bottom()}, tick);
+    painter.drawText(QRectF(0, section.center().y() - line / 2, left - tick - 2, line),
+                     Qt::AlignRight | Qt::AlignVCenter, Text(picture.DText));
+    if (!picture.IsRound) {
+        DrawDimension(painter, {section.left(), below}, {section.right(), below}, tick);
+        painter.drawText(QRectF(0, below + tick, width(), line), Qt::AlignCenter, Text(picture.BText));
+    }
+    painter.setPen(colors.Faint);
+    painter.drawText(QRectF(0, below + tick + line, width(), line), Qt::AlignCenter,
+                     Text(picture.MakeUpText));
+}
+
+}  // namespace kordavan

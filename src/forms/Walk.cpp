@@ -1,0 +1,146 @@
+#include "forms/Walk.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include "design/NewBeam.h"
+#include "forms/EntryDiagram.h"
+#include "forms/Form1.h"
+#include "forms/Form21.h"
+#include "forms/Form25.h"
+#include "forms/Form3.h"
+#include "forms/Form5.h"
+#include "forms/NumericBox.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view NoBoxToInsertInto = "Please click the box that is to take the number first.";
+
+}  // namespace
+
+void FrontUser::Tell(const Message& message)
+{
+    desk.Tell(message);
+    if (front != nullptr && !message.Focus.empty()) {
+        front->FocusOn(message.Focus);
+    }
+}
+
+Walk::Walk(Session& currentSession, UserPort& user, DesktopPort& desk)
+    : session(currentSession), desktop(desk), frontUser(user)
+{
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*old*/, QWidget* now) { RememberBox(now); });
+}
+
+Walk::~Walk() = default;
+
+std::unique_ptr<Form> Walk::MakeForm(Screen screen)
+{
+    switch (screen) {
+        case Screen::Criteria:
+            return std::make_unique<Form1>(*this);
+        case Screen::WoodSelection:
+            return std::make_unique<Form3>(*this);
+        case Screen::TestReport:
+            return std::make_unique<Form5>(*this);
+        case Screen::Notes:
+            return std::make_unique<Form21>(*this);
+        case Screen::Calculator:
+            return std::make_unique<Form25>(*this);
+        case Screen::SimpleDiagram:
+            return std::make_unique<EntryDiagram>(*this, EntryDiagramKind::SimpleSpan);
+        case Screen::OverhangDiagram:
+            return std::make_unique<EntryDiagram>(*this, EntryDiagramKind::Overhanging);
+        case Screen::HipDiagram:
+            return std::make_unique<EntryDiagram>(*this, EntryDiagramKind::HipValley);
+    }
+    return nullptr;
+}
+
+Form& Walk::FormOf(Screen screen)
+{
+    std::unique_ptr<Form>& form = forms[screen];
+    if (!form) {
+        form = MakeForm(screen);
+    }
+    return *form;
+}
+
+void Walk::Go(Screen screen)
+{
+    Form& next = FormOf(screen);
+    Form* const left = front;
+    front = &next;
+    frontUser.SetFront(front);
+    if (!next.isVisible()) {
+        next.FitToScreen();
+    }
+    next.Activate();
+    if (CenterForms) {
+        Center(next);
+    }
+    next.show();
+    next.raise();
+    next.activateWindow();
+    if (left != nullptr && left != &next) {
+        left->hide();
+    }
+}
+
+void Walk::ShowBeside(Screen screen)
+{
+    Form& form = FormOf(screen);
+    if (!form.isVisible()) {
+        form.FitToScreen();
+    }
+    form.Activate();
+    form.show();
+    form.raise();
+    form.activateWindow();
+}
+
+void Walk::AskToExit()
+{
+    const Message question = ExitQuestion(session, desktop.MinutesSinceStart());
+    if (frontUser.Ask(question)) {
+        desktop.EndProgram();
+    }
+}
+
+std::string Walk::CalculatorText()
+{
+    return static_cast<Form25&>(FormOf(Screen::Calculator)).ValueText();
+}
+
+void Walk::InsertIntoLastBox()
+{
+    if (auto* const box = qobject_cast<NumericBox*>(lastBox.data())) {
+        box->window()->activateWindow();
+        box->setFocus();
+        box->InsertFromCalculator();
+    } else {
+        frontUser.Tell(Alert(NoBoxToInsertInto));
+    }
+}
+
+void Walk::RememberBox(QWidget* now)
+{
+    if (qobject_cast<NumericBox*>(now) != nullptr) {
+        lastBox = now;
+    }
+}
+
+/// Left half of the screen's width, top half of 0.85 of its height, less half of the form.
+void Walk::Center(Form& form) const
+{
+    constexpr double heightShare = 0.85;
+    const QRect screen = QApplication::primaryScreen()->availableGeometry();
+    const int left = screen.left() + (screen.width() - form.width()) / 2;
+    const int top = screen.top() + static_cast<int>(heightShare * screen.height() / 2) - form.height() / 2;
+    form.move(std::max(left, screen.left()), std::max(top, screen.top()));
+}
+
+}  // namespace kordavan

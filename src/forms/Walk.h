@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/Message.h"
+#include "design/LoadingConditions.h"
+#include "design/Session.h"
+#include "forms/DesktopPort.h"
+
+class QWidget;
+
+namespace kordavan {
+
+class Form;
+
+/// The screens by their names in the walk.
+enum class Screen {
+    Criteria,
+    WoodSelection,
+    TestReport,
+    Notes,
+    Calculator,
+    SimpleDiagram,
+    OverhangDiagram,
+    HipDiagram
+};
+
+/// The person as the forms speak to them: what is told goes on to the desk, and afterwards the box that it
+/// names on the form in front takes the focus.
+class FrontUser : public UserPort {
+public:
+    explicit FrontUser(UserPort& port) : desk(port) {}
+
+    void SetFront(Form* form) { front = form; }
+
+    void Tell(const Message& message) override;
+    bool Ask(const Message& question) override { return desk.Ask(question); }
+
+private:
+    UserPort& desk;
+    Form* front = nullptr;
+};
+
+/// The road from form to form over one session. Forms are made when first shown and hidden when left, so that
+/// what they hold survives.
+class Walk : public QObject {
+    Q_OBJECT
+
+public:
+    Walk(Session& session, UserPort& user, DesktopPort& desktop);
+    ~Walk() override;
+
+    Session& CurrentSession() { return session; }
+    UserPort& User() { return frontUser; }
+    DesktopPort& Desktop() { return desktop; }
+
+    /// The form of a screen, made if need be.
+    Form& FormOf(Screen screen);
+
+    /// Shows a screen and hides the one in front. It is activated: filled again and centred.
+    void Go(Screen screen);
+
+    /// Shows a screen beside the one in front, which stays.
+    void ShowBeside(Screen screen);
+
+    /// Asks whether to end the program, and ends it on Yes.
+    void AskToExit();
+
+    Form* Front() const { return front; }
+
+    /// The value shown by the calculator, as text.
+    std::string CalculatorText();
+
+    /// Puts the calculator's value into the numeric box that had the focus last.
+    void InsertIntoLastBox();
+
+    /// Pairs of commonly used uniform loads, for the buttons that step through them.
+    std::vector<LoadPair> LoadPairs;
+
+    /// Whether a form is centred on the screen as it comes to the front.
+    bool CenterForms = true;
+
+    /// Counts the analyses, so that a selection screen knows whether its picks are those of the last one.
+    int AnalysisCount = 0;
+
+private:
+    std::unique_ptr<Form> MakeForm(Screen screen);
+    void RememberBox(QWidget* now);
+    void Center(Form& form) const;
+
+    Session& session;
+    DesktopPort& desktop;
+    FrontUser frontUser;
+    std::map<Screen, std::unique_ptr<Form>> forms;
+    Form* front = nullptr;
+    QPointer<QWidget> lastBox;
+};
+
+}  // namespace kordavan

@@ -1,0 +1,128 @@
+#include <QMap>
+#include <QSet>
+
+#include "forms/WalkFixture.h"
+
+namespace kordavan {
+namespace {
+
+class KeyboardTest : public WalkFixture {
+protected:
+    /// The names that Tab comes by, from the control in focus until it comes round.
+    std::vector<std::string> TabStops()
+    {
+        std::vector<std::string> stops{FocusName()};
+        constexpr std::size_t moreThanAnyForm = 300;
+        while (stops.size() < moreThanAnyForm) {
+            Key(Qt::Key_Tab);
+            if (FocusName() == stops.front()) {
+                break;
+            }
+            stops.push_back(FocusName());
+        }
+        return stops;
+    }
+
+    /// Letters by which two controls, both seen, would be reached at once.
+    static std::vector<std::string> DoubledMnemonics(QWidget& form)
+    {
+        QMap<QString, QString> byLetter;
+        std::vector<std::string> doubled;
+        const auto take = [&](const QString& caption) {
+            const QString key = QKeySequence::mnemonic(caption).toString();
+            if (key.isEmpty()) {
+                return;
+            }
+            if (byLetter.contains(key) && byLetter[key] != caption) {
+                doubled.push_back(Text(key) + " of " + Text(caption) + " and " + Text(byLetter[key]));
+            }
+            byLetter[key] = caption;
+        };
+        for (const QAbstractButton* const button : form.findChildren<QAbstractButton*>()) {
+            if (button->isVisibleTo(&form)) {
+                take(button->text());
+            }
+        }
+        for (const QLabel* const label : form.findChildren<QLabel*>()) {
+            if (label->isVisibleTo(&form) && label->buddy() != nullptr) {
+                take(label->text());
+            }
+        }
+        if (auto* const window = qobject_cast<QMainWindow*>(&form)) {
+            for (const QAction* const menu : window->menuBar()->actions()) {
+                take(menu->text());
+            }
+        }
+        return doubled;
+    }
+};
+
+TEST_F(KeyboardTest, TabRunsDownTheCriteriaPage)
+{
+    Click("OHbutton");
+    Click("Rep");
+    Click("Roofbutton");
+    Click("CalcPSFPartial");
+    Box("Proj").setFocus();
+    std::vector<std::string> expected{
+        "Proj",   "ID",          "Descrip",  "Combo1",    "OHbutton", "Span",      "UBLtext",
+        "CantUBLtext", "Dur",    "Command3D15", "LMaxDefl", "MaxDefl", "Dadj",     "Rep",
+        "Ctr0",   "Wet",         "Incised",  "Reducechk", "NoWeight", "Roofbutton", "Pitchtext",
+        "INGRADE", "LoadSketch", "LUNIF",    "UNIF",      "PLFspin",  "CalcPSF",   "Text1",
+        "Text2",  "Command1",    "Tribute",  "Command3D25"};
+    const auto addRows = [&](std::size_t count, std::initializer_list<const char*> arrays) {
+        for (std::size_t k = 0; k < count; ++k) {
+            for (const char* const array : arrays) {
+                expected.push_back(BoxName(array, k));
+            }
+        }
+    };
+    addRows(PointSlotCount, {"LPT", "PT", "DIS"});
+    expected.insert(expected.end(), {"UBSpan", "UBOH"});
+    addRows(PartialSlotCount, {"LPSF", "PSF", "TribPSF"});
+    expected.insert(expected.end(), {"Command3D21", "Command3D22"});
+    addRows(PartialSlotCount, {"LPAR", "PAR", "BEGP", "ENDP"});
+    expected.push_back("CalcPSFPartial");
+    EXPECT_EQ(TabStops(), expected);
+    Key(Qt::Key_Escape);
+    Box("ENDP[4]").setFocus();
+    Key(Qt::Key_Tab);
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(FocusName(), "CmdOK");
+}
+
+TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
+{
+    for (const std::string condition : {"SimpleSpanbutton", "OHbutton", "IncButton", "Multibutton"}) {
+        Click(condition);
+        EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty()) << condition;
+    }
+    Click("OHbutton");
+    Click("CalcPSFPartial");
+    EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty());
+    for (const Screen screen : {Screen::WoodSelection, Screen::TestReport, Screen::Notes, Screen::Calculator,
+                                Screen::SimpleDiagram}) {
+        EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
+    }
+}
+
+TEST_F(KeyboardTest, EveryControlHasANameAndSaysWhatItIs)
+{
+    for (const Screen screen : {Screen::Criteria, Screen::WoodSelection, Screen::TestReport, Screen::Notes,
+                                Screen::Calculator, Screen::OverhangDiagram}) {
+        Form& form = walk.FormOf(screen);
+        for (const QWidget* const control : form.findChildren<QWidget*>()) {
+            const bool isControl = qobject_cast<const QLineEdit*>(control) != nullptr ||
+                                   qobject_cast<const QAbstractButton*>(control) != nullptr;
+            if (!isControl || control->objectName().startsWith(QLatin1String("qt_"))) {
+                continue;
+            }
+            EXPECT_FALSE(control->objectName().isEmpty()) << Text(form.objectName());
+            EXPECT_FALSE(control->accessibleName().isEmpty()) << Text(control->objectName());
+            EXPECT_FALSE(control->toolTip().isEmpty()) << Text(control->objectName());
+        }
+    }
+}
+
+}  // namespace
+}  // namespace kordavan

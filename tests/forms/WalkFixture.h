@@ -1,0 +1,108 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <stdexcept>
+#include <string>
+
+#include "forms/Form.h"
+#include "forms/Walk.h"
+#include "support/ScriptedUser.h"
+
+namespace kordavan {
+
+/// A desk whose clock stands still and that remembers what it was asked to do.
+class ScriptedDesktop : public DesktopPort {
+public:
+    CalendarDay Today() override { return {.Year = 2026, .Month = 3, .Day = 7}; }
+    int MinutesSinceStart() override { return 12; }
+    void OpenFileExplorer() override { ++ExplorersOpened; }
+    void EndProgram() override { HasEnded = true; }
+
+    int ExplorersOpened = 0;
+    bool HasEnded = false;
+};
+
+/// The program at a desk whose person and clock are scripted: it opens on the criteria, and a test types and
+/// clicks in whatever form is in front.
+class WalkFixture : public testing::Test {
+protected:
+    WalkFixture() : walk(session, user, desktop)
+    {
+        walk.Go(Screen::Criteria);
+        Settle();
+    }
+
+    Form& Front() { return *walk.Front(); }
+
+    /// A control of the form in front by its name; a test that asks for one that is not there fails.
+    template <typename Control>
+    Control& Find(const std::string& name)
+    {
+        return FindIn<Control>(Front(), name);
+    }
+
+    template <typename Control>
+    static Control& FindIn(QWidget& form, const std::string& name)
+    {
+        auto* const found = form.findChild<Control*>(Text(name));
+        if (found == nullptr) {
+            throw std::out_of_range("no control " + name + " on " + Text(form.objectName()));
+        }
+        return *found;
+    }
+
+    QLineEdit& Box(const std::string& name) { return Find<QLineEdit>(name); }
+    std::string BoxText(const std::string& name) { return Text(Box(name).text()); }
+    std::string LabelText(const std::string& name) { return Text(Find<QLabel>(name).text()); }
+
+    /// Types over what a box holds.
+    void Type(const std::string& name, const std::string& text)
+    {
+        QLineEdit& box = Box(name);
+        box.setFocus();
+        box.selectAll();
+        QTest::keyClick(&box, Qt::Key_Delete);
+        QTest::keyClicks(&box, Text(text));
+    }
+
+    /// Clicks near the left edge, where checks and options have their mark.
+    void Click(const std::string& name)
+    {
+        auto& button = Find<QAbstractButton>(name);
+        constexpr int intoTheMark = 9;
+        QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(intoTheMark, button.height() / 2));
+    }
+
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QWidget* const focus = Front().focusWidget();
+        QTest::keyClick(focus == nullptr ? &Front() : focus, key, modifiers);
+        Settle();
+    }
+
+    void Choose(const std::string& menuCommand) { Find<QAction>(menuCommand).trigger(); }
+
+    std::string FocusName()
+    {
+        const QWidget* const focus = Front().focusWidget();
+        return focus == nullptr ? std::string{} : Text(focus->objectName());
+    }
+
+    static void Settle() { QApplication::processEvents(); }
+
+    Session session;
+    ScriptedUser user;
+    ScriptedDesktop desktop;
+    Walk walk;
+};
+
+}  // namespace kordavan
