@@ -79,8 +79,8 @@ TEST_F(EntryBoxTest, WarnsOfAnUnusualDurationAndKeepsIt)
 TEST_F(EntryBoxTest, RefusesPastedGarbageAndSurvivesIt)
 {
     for (const QString& garbage :
-         {QStringLiteral("NaN"), QStringLiteral("1e999"), QStringLiteral("12 ft"), QString(100000, QLatin1Char('x')),
-          QStringLiteral("\u00bd"), QStringLiteral("1,200")}) {
+         {QStringLiteral("NaN"), QStringLiteral("1e999"), QStringLiteral("12 ft"),
+          QString(100000, QLatin1Char('x')), QStringLiteral("\u00bd"), QStringLiteral("1,200")}) {
         user.Told.clear();
         QLineEdit& box = Box("LPT[1]");
         box.setFocus();

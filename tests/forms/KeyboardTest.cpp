@@ -65,11 +65,11 @@ TEST_F(KeyboardTest, TabRunsDownTheCriteriaPage)
     Click("CalcPSFPartial");
     Box("Proj").setFocus();
     std::vector<std::string> expected{
-        "Proj",   "ID",          "Descrip",  "Combo1",    "OHbutton", "Span",      "UBLtext",
-        "CantUBLtext", "Dur",    "Command3D15", "LMaxDefl", "MaxDefl", "Dadj",     "Rep",
-        "Ctr0",   "Wet",         "Incised",  "Reducechk", "NoWeight", "Roofbutton", "Pitchtext",
-        "INGRADE", "LoadSketch", "LUNIF",    "UNIF",      "PLFspin",  "CalcPSF",   "Text1",
-        "Text2",  "Command1",    "Tribute",  "Command3D25"};
+        "Proj",        "ID",         "Descrip",     "Combo1",     "OHbutton", "Span",       "UBLtext",
+        "CantUBLtext", "Dur",        "Command3D15", "LMaxDefl",   "MaxDefl",  "Dadj",       "Rep",
+        "Ctr0",        "Wet",        "Incised",     "Reducechk",  "NoWeight", "Roofbutton", "Pitchtext",
+        "INGRADE",     "LoadSketch", "LUNIF",       "UNIF",       "PLFspin",  "CalcPSF",    "Text1",
+        "Text2",       "Command1",   "Tribute",     "Command3D25"};
     const auto addRows = [&](std::size_t count, std::initializer_list<const char*> arrays) {
         for (std::size_t k = 0; k < count; ++k) {
             for (const char* const array : arrays) {

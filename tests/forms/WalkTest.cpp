@@ -151,8 +151,9 @@ TEST_F(WalkTest, RefusalLeavesEverythingAndPointsToTheBox)
     Type("Span", "14");
     Type("PT[2]", "500");
     Click("CmdOK");
-    EXPECT_THAT(user.Told, ElementsAre(RefusalOf(
-                               "Please enter a Distance from the starting reaction for the Point Load", "DIS[2]")));
+    EXPECT_THAT(user.Told,
+                ElementsAre(RefusalOf("Please enter a Distance from the starting reaction for the Point Load",
+                                      "DIS[2]")));
     EXPECT_EQ(FrontName(), "Form1");
     EXPECT_EQ(FocusName(), "DIS[2]");
     EXPECT_EQ(BoxText("PT[2]"), "500");
@@ -216,7 +217,8 @@ TEST_F(WalkTest, EndsOnlyOnYes)
     Front().close();
     EXPECT_FALSE(desktop.HasEnded);
     EXPECT_TRUE(Front().isVisible());
-    EXPECT_THAT(user.Told.back().Text, HasSubstr("You have used Kordavan for 12 minutes. Do you wish to exit?"));
+    EXPECT_THAT(user.Told.back().Text,
+                HasSubstr("You have used Kordavan for 12 minutes. Do you wish to exit?"));
     user.WillAnswer(true);
     Choose("MnuExit");
     EXPECT_TRUE(desktop.HasEnded);
