@@ -1,7 +1,6 @@
 #include "design/EntryChoices.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 
 #include "design/QuickPicks.h"
@@ -10,9 +9,6 @@
 namespace kordavan {
 
 namespace {
-
-constexpr std::array<std::string_view, 11> SawnBreadths{"2x", "(2) 2x", "(3) 2x", "(4) 2x", "3x", "4x",
-                                                        "6x", "8x",     "10x",    "12x",    "14x"};
 
 SizeFamily FamilyOf(const BeamNumbers& beam)
 {
@@ -53,7 +49,12 @@ bool IsOfGroup(const SpeciesRow& row, const QuickPicks& cells, SpeciesGroup grou
 
 std::vector<std::string_view> BreadthChoices(const BeamNumbers& beam)
 {
-    std::vector<std::string_view> texts(SawnBreadths.begin(), SawnBreadths.end());
+    std::vector<std::string_view> texts;
+    for (const Breadth& breadth : BreadthsOf(FamilyOf(beam))) {
+        if (breadth.Key != BreadthKey::Glulam) {
+            texts.push_back(breadth.Text);
+        }
+    }
     for (const QuickPick& cell : QuickPickCells(beam)) {
         AddOnce(texts, cell.BreadthText);
     }

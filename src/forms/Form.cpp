@@ -22,6 +22,7 @@ Form::Form(Walk& theWalk, std::string_view name)
       foot(new QHBoxLayout(footArea))
 {
     setObjectName(Text(name));
+    setAttribute(Qt::WA_KeyboardFocusChange);  // the focus is seen before the first Tab too
     auto* const contents = new QWidget;
     contents->setLayout(body);
     scroll->setWidget(contents);
@@ -88,18 +89,19 @@ void Form::AddExitCommand(QMenu& file)
 {
     file.addSeparator();
     AddCommand(
-        file, {"MnuExit"}, "E&xit", [this] { currentWalk.AskToExit(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
+        file, {"MnuExit", "Ends the program"}, "E&xit", [this] { currentWalk.AskToExit(); },
+        QKeySequence(Qt::CTRL | Qt::Key_Q));
 }
 
 void Form::AddToolsMenu()
 {
     QMenu& tools = AddMenu("&Tools");
     AddCommand(
-        tools, {"MnuCalc"}, "&Calculator", [this] { currentWalk.ShowBeside(Screen::Calculator); },
-        QKeySequence(Qt::Key_F9));
+        tools, {"MnuCalc", "A calculator beside this form"}, "&Calculator",
+        [this] { currentWalk.ShowBeside(Screen::Calculator); }, QKeySequence(Qt::Key_F9));
     AddCommand(
-        tools, {"MnuNotes"}, "&Notes", [this] { currentWalk.ShowBeside(Screen::Notes); },
-        QKeySequence(Qt::CTRL | Qt::Key_T));
+        tools, {"MnuNotes", "Notes for the record"}, "&Notes",
+        [this] { currentWalk.ShowBeside(Screen::Notes); }, QKeySequence(Qt::CTRL | Qt::Key_T));
 }
 
 HelpButton* Form::MakeHelp(const HelpText& help, std::initializer_list<std::string_view> boxes)
@@ -129,6 +131,8 @@ void Form::AddHelpMenu(std::string_view page)
     for (HelpButton* const button : buttons) {
         QAction* const topic = menu.addAction(button->Topic());
         connect(topic, &QAction::triggered, button, &QToolButton::click);
+        connect(&menu, &QMenu::aboutToShow, topic,
+                [this, topic, button] { topic->setVisible(button->isVisibleTo(this)); });
     }
 }
 

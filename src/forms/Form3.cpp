@@ -130,16 +130,12 @@ void Form3::BuildFoot()
 void Form3::BuildMenus()
 {
     QMenu& file = AddMenu("&File");
-    AddCommand(file, {"MnuExit", "Ends the program"}, "E&xit", [this] { TheWalk().AskToExit(); });
+    AddExitCommand(file);
     QMenu& goTo = AddMenu("&Go to");
     AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
-    QMenu& tools = AddMenu("&Tools");
-    AddCommand(tools, {"MnuCalc", "A calculator beside this form"}, "&Calculator",
-               [this] { TheWalk().ShowBeside(Screen::Calculator); });
-    AddCommand(tools, {"MnuNotes", "Notes for the record"}, "&Notes",
-               [this] { TheWalk().ShowBeside(Screen::Notes); });
+    AddToolsMenu();
     AddHelpMenu(Page);
 }
 

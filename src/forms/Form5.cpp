@@ -252,16 +252,12 @@ void Form5::BuildMenus()
 {
     QMenu& file = AddMenu("&File");
     AddCommand(file, {"MnuNew", "Begins another beam"}, "&New Beam", [this] { OnNewBeam(); });
-    AddCommand(file, {"MnuExit", "Ends the program"}, "E&xit", [this] { TheWalk().AskToExit(); });
+    AddExitCommand(file);
     QMenu& goTo = AddMenu("&Go to");
     AddCommand(goTo, {"MnuBack", "Back to the selection (Esc)"}, "&Selection Form 2", [this] { GoBack(); });
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
-    QMenu& tools = AddMenu("&Tools");
-    AddCommand(tools, {"MnuCalc", "A calculator beside this form"}, "&Calculator",
-               [this] { TheWalk().ShowBeside(Screen::Calculator); });
-    AddCommand(tools, {"MnuNotes", "Notes for the record"}, "&Notes",
-               [this] { TheWalk().ShowBeside(Screen::Notes); });
+    AddToolsMenu();
     AddHelpMenu(Page);
     QAction* const back = menuBar()->addAction(tr("&Back"));
     back->setObjectName(QStringLiteral("backmnu"));

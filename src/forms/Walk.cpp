@@ -65,6 +65,7 @@ Form& Walk::FormOf(Screen screen)
     std::unique_ptr<Form>& form = forms[screen];
     if (!form) {
         form = MakeForm(screen);
+        form->FitToScreen();
     }
     return *form;
 }
@@ -75,9 +76,6 @@ void Walk::Go(Screen screen)
     Form* const left = front;
     front = &next;
     frontUser.SetFront(front);
-    if (!next.isVisible()) {
-        next.FitToScreen();
-    }
     next.Activate();
     if (CenterForms) {
         Center(next);
@@ -93,9 +91,6 @@ void Walk::Go(Screen screen)
 void Walk::ShowBeside(Screen screen)
 {
     Form& form = FormOf(screen);
-    if (!form.isVisible()) {
-        form.FitToScreen();
-    }
     form.Activate();
     form.show();
     form.raise();

@@ -66,28 +66,6 @@ constexpr std::array HeaderBreadths{
     Breadth{"5-1/2x", 5.5, BreadthKey::Glulam},
 };
 
-std::span<const Breadth> BreadthsOf(SizeFamily family)
-{
-    switch (family) {
-        case SizeFamily::Listed:
-        case SizeFamily::SouthernPineListed:
-            return ListedBreadths;
-        case SizeFamily::Custom2x:
-            return Custom2xBreadths;
-        case SizeFamily::Custom4x:
-            return Custom4xBreadths;
-        case SizeFamily::CustomTimber:
-            return CustomTimberBreadths;
-        case SizeFamily::CustomGlulam:
-            return CustomGlulamBreadths;
-        case SizeFamily::CustomSouthernPineGlulam:
-            return CustomSouthernPineGlulamBreadths;
-        case SizeFamily::GlulamHeader:
-            return HeaderBreadths;
-    }
-    return {};
-}
-
 struct LadderStep {
     ShortText Text;
     double Net = 0;  // in.
@@ -172,6 +150,28 @@ bool IsWiderThanDeep(const Breadth& breadth, const LadderStep& step)
 }
 
 }  // namespace
+
+std::span<const Breadth> BreadthsOf(SizeFamily family)
+{
+    switch (family) {
+        case SizeFamily::Listed:
+        case SizeFamily::SouthernPineListed:
+            return ListedBreadths;
+        case SizeFamily::Custom2x:
+            return Custom2xBreadths;
+        case SizeFamily::Custom4x:
+            return Custom4xBreadths;
+        case SizeFamily::CustomTimber:
+            return CustomTimberBreadths;
+        case SizeFamily::CustomGlulam:
+            return CustomGlulamBreadths;
+        case SizeFamily::CustomSouthernPineGlulam:
+            return CustomSouthernPineGlulamBreadths;
+        case SizeFamily::GlulamHeader:
+            return HeaderBreadths;
+    }
+    return {};
+}
 
 std::string_view KeyText(BreadthKey key)
 {

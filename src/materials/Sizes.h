@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -37,6 +38,9 @@ struct Depth {
     std::string_view NextSmallerText{};  // empty where there is none
     std::string_view NextLargerText{};
 };
+
+/// The breadths of a family; those of a species group hold the glulams of all woods.
+std::span<const Breadth> BreadthsOf(SizeFamily family);
 
 /// The breadth written exactly so, or none.
 std::optional<Breadth> FindBreadth(SizeFamily family, std::string_view text);

@@ -116,6 +116,8 @@ TEST_F(ReportFormTest, AStepAtItsEndHandsTheFocusToItsTwin)
 TEST_F(ReportFormTest, RowsKeepTheirPlacesWhileStepping)
 {
     TestMemberOn("4x", "10", "HF #2");
+    Front().resize(1280, 800);
+    Settle();
     const auto placeOf = [this](const std::string& name) {
         auto& label = Find<QLabel>(name);
         return label.mapTo(&Front(), QPoint(0, 0));
