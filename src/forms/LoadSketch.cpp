@@ -47,7 +47,7 @@ QSize LoadSketch::sizeHint() const
 
 QSize LoadSketch::minimumSizeHint() const
 {
-    return {DigitsWidth(*this, 40), 8 * fontMetrics().height()};
+    return {DigitsWidth(*this, 40), 12 * fontMetrics().height()};
 }
 
 void LoadSketch::paintEvent(QPaintEvent* /*event*/)
