@@ -22,7 +22,7 @@ class BareDesk : public DesktopPort {
 public:
     CalendarDay Today() override { return {.Year = 2026, .Month = 1, .Day = 2}; }
     int MinutesSinceStart() override { return 0; }
-    void OpenFileExplorer() override {}
+    bool OpenFileExplorer() override { return true; }
     void EndProgram() override {}
 };
 

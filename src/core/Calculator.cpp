@@ -95,7 +95,7 @@ void Calculator::Press(CalculatorKey key)
             break;
         case CalculatorKey::MemoryAdd:
             CloseEntry();
-            memory += Value().value_or(0);
+            AddToMemory(Value().value_or(0));
             break;
         case CalculatorKey::MemoryRecall:
             Show(memory);
@@ -160,6 +160,15 @@ void Calculator::CloseEntry()
         }
     }
     isEntry = false;
+}
+
+void Calculator::AddToMemory(double value)
+{
+    if (std::isfinite(memory + value)) {
+        memory += value;
+    } else {
+        Fail();
+    }
 }
 
 std::optional<double> Calculator::Value() const

@@ -31,6 +31,7 @@ private:
     void Append(char key);
     void Operate(char operation);
     void CloseEntry();
+    void AddToMemory(double value);
     std::optional<double> Value() const;
     void Show(double value);
     void Fail();

@@ -97,9 +97,13 @@ EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text, EntryState
     return rule.Kind == EntryKind::Load && Val(text) == 0 ? EntryVerdict::Emptied : EntryVerdict::Stands;
 }
 
-std::string_view InsertRefusal(const EntryRule& rule, std::string_view calculatorText)
+std::string_view InsertRefusal(const EntryRule* rule, std::string_view calculatorText)
 {
-    const bool tooLarge = rule.Kind == EntryKind::Load && Val(calculatorText) >= InsertLimit;
+    if (calculatorText.empty()) {
+        return EntryTexts::NothingToInsert;
+    }
+    const bool isLoad = rule != nullptr && rule->Kind == EntryKind::Load;
+    const bool tooLarge = isLoad && Val(calculatorText) >= InsertLimit;
     return tooLarge ? EntryTexts::TooLargeToInsert : std::string_view{};
 }
 

@@ -33,11 +33,12 @@ enum class EntryState { Complete, BeingTyped };
 EntryVerdict JudgeEntry(const EntryRule& rule, std::string_view text,
                         EntryState state = EntryState::Complete);
 
-/// Why the text of the calculator may not go into a box of this rule; an empty text when it may.
-std::string_view InsertRefusal(const EntryRule& rule, std::string_view calculatorText);
+/// Why the text of the calculator may not go into a box of this rule, or of none; an empty text when it may.
+std::string_view InsertRefusal(const EntryRule* rule, std::string_view calculatorText);
 
 namespace EntryTexts {
 inline constexpr std::string_view NoCommas = "Please do not enter comma separators.";
+inline constexpr std::string_view NothingToInsert = "The calculator shows no number to insert.";
 inline constexpr std::string_view TooLargeToInsert = "Number is too large to insert";
 }  // namespace EntryTexts
 

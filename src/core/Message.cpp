@@ -30,6 +30,12 @@ Message Question(std::string_view text)
     return Compose(MessageKind::Question, text, {});
 }
 
+Message Marked(Message message, MessageIcon icon)
+{
+    message.Icon = icon;
+    return message;
+}
+
 Outcome Refuse(UserPort& user, const Message& message)
 {
     user.Tell(message);

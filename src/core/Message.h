@@ -19,11 +19,15 @@ struct Message {
     std::string Text;
     std::string Focus;
     MessageIcon Icon = MessageIcon::None;
+    bool IsRisky = false;  // a Yes loses something, so No is offered first
 };
 
 Message Refusal(std::string_view text, std::string_view focus = {});
 Message Alert(std::string_view text, std::string_view focus = {});
 Message Question(std::string_view text);
+
+/// The message with another icon.
+Message Marked(Message message, MessageIcon icon);
 
 enum class Outcome { Done, Refused };
 

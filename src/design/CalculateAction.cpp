@@ -62,11 +62,11 @@ BeamNumbers ReadNumbers(const Session& session, const BeamProblem& problem)
     return beam;
 }
 
-Outcome RemindOfTributary(BeamProblem& problem, UserPort& user)
+Outcome RemindOfTributary(Session& session, UserPort& user)
 {
-    const LoadSet& loads = problem.Loads;
+    const LoadSet& loads = session.Problem.Loads;
     const bool forgotten = !loads.Tribute.empty() && !loads.Text2.empty() && loads.UNIF.empty();
-    return forgotten && user.Ask(Question(TributaryReminder)) ? MultiplyTributary(problem, user)
+    return forgotten && user.Ask(Question(TributaryReminder)) ? MultiplyTributary(session, user)
                                                               : Outcome::Done;
 }
 
@@ -125,9 +125,8 @@ Outcome CheckLoads(const BeamProblem& problem, const BeamNumbers& beam, UserPort
 
 Outcome RefuseOverflow(UserPort& user)
 {
-    Message fault = Refusal(Overflow);
+    Message fault = Marked(Refusal(Overflow), MessageIcon::Warning);
     fault.Title = FaultTitle;
-    fault.Icon = MessageIcon::Warning;
     return Refuse(user, fault);
 }
 
@@ -160,7 +159,7 @@ Outcome AdjustAndAnalyse(Session& session, UserPort& user, const Progress& progr
 
 Outcome CalculateAction(Session& session, UserPort& user, const Progress& progress)
 {
-    if (RemindOfTributary(session.Problem, user) != Outcome::Done) {
+    if (RemindOfTributary(session, user) != Outcome::Done) {
         return Outcome::Refused;
     }
     const BeamNumbers beam = ReadNumbers(session, session.Problem);

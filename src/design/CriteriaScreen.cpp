@@ -75,6 +75,7 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
     screen.UBLlabel = isContinuous ? "Assumed fully braced" : "Unbraced length in ft";
     screen.HasUnbracedLength = !isContinuous;
     screen.HasOverhang = problem.Support == SupportCondition::Overhanging;
+    screen.UnbracedUnit = screen.HasOverhang ? "ft, backspan" : "ft";
     screen.UBSpan = {
         .Caption = unbalanced.Span ? UnbalanceCaptions::RestoreSpan : UnbalanceCaptions::UnbalanceSpan,
         .IsPressed = unbalanced.Span,
@@ -87,6 +88,7 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
     screen.PLFspin = isHip ? "ETL" : "PLF";
     screen.CanCalculateHipLoad = isHip && !session.Restore.HipLoadsGrown;
     screen.MustCalculateHipLoad = screen.CanCalculateHipLoad && problem.Loads.UNIF.empty();
+    screen.IsMultiplied = session.Multiplied == problem.Loads;
     if (isContinuous) {
         screen.EqualReactions = problem.ThreeSpan ? "Note: R1 = R4, R2 = R3" : "Note: R1 = R3";
     }

@@ -24,6 +24,7 @@ struct CriteriaScreen {
     std::string Title;
     std::string SavePanel;
     std::string_view UBLlabel;
+    std::string_view UnbracedUnit;  // of an overhanging beam with the part that it stands for
     bool HasUnbracedLength = true;  // the box may be typed in
     bool HasOverhang = false;
     UnbalanceButton UBSpan;
@@ -32,6 +33,7 @@ struct CriteriaScreen {
     std::string_view PLFspin;           // what the uniform load is called
     bool CanCalculateHipLoad = false;   // the tool has not grown the loads already
     bool MustCalculateHipLoad = false;  // there is no equivalent load yet
+    bool IsMultiplied = false;          // the loads are as the uniform calculator left them
     std::string_view EqualReactions;    // of multiple spans
 };
 

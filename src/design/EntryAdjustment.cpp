@@ -133,4 +133,12 @@ void RestoreHipLoads(Session& session)
     }
 }
 
+BeamProblem TypedEntries(const Session& session)
+{
+    Session asTyped = session;
+    RestoreEntries(asTyped);
+    RestoreHipLoads(asTyped);
+    return asTyped.Problem;
+}
+
 }  // namespace kordavan

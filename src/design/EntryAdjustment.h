@@ -21,6 +21,9 @@ void AdjustEntries(BeamProblem& problem, float slopeFactor, EntriesToRestore& re
 /// divided, to whole pounds for 16 and 19.2 in.; totals grown by the slope return to what was typed.
 void RestoreEntries(Session& session);
 
+/// The entries as typed, whatever a calculation or the hips and valleys tool has written into the boxes.
+BeamProblem TypedEntries(const Session& session);
+
 /// Puts back the roof loads that the hips and valleys tool has grown, so that it may run again.
 void RestoreHipLoads(Session& session);
 

@@ -10,11 +10,6 @@ namespace kordavan {
 
 namespace {
 
-SizeFamily FamilyOf(const BeamNumbers& beam)
-{
-    return beam.Group == SpeciesGroup::SouthernPine ? SizeFamily::SouthernPineListed : SizeFamily::Listed;
-}
-
 void AddOnce(std::vector<std::string_view>& texts, std::string_view text)
 {
     if (std::find(texts.begin(), texts.end(), text) == texts.end()) {
@@ -50,7 +45,7 @@ bool IsOfGroup(const SpeciesRow& row, const QuickPicks& cells, SpeciesGroup grou
 std::vector<std::string_view> BreadthChoices(const BeamNumbers& beam)
 {
     std::vector<std::string_view> texts;
-    for (const Breadth& breadth : BreadthsOf(FamilyOf(beam))) {
+    for (const Breadth& breadth : BreadthsOf(FamilyOf(beam.Group))) {
         if (breadth.Key != BreadthKey::Glulam) {
             texts.push_back(breadth.Text);
         }
@@ -64,10 +59,10 @@ std::vector<std::string_view> BreadthChoices(const BeamNumbers& beam)
 std::vector<std::string_view> DepthChoices(const BeamNumbers& beam, std::string_view breadthText)
 {
     std::vector<std::string_view> texts;
-    AddDepths(FamilyOf(beam), breadthText, texts);
+    AddDepths(FamilyOf(beam.Group), breadthText, texts);
     if (texts.empty()) {
         for (const std::string_view breadth : BreadthChoices(beam)) {
-            AddDepths(FamilyOf(beam), breadth, texts);
+            AddDepths(FamilyOf(beam.Group), breadth, texts);
         }
     }
     return texts;
@@ -82,7 +77,7 @@ std::vector<std::string_view> SpeciesChoices(const BeamNumbers& beam, std::strin
             AddOnce(texts, row.SpeciesName);
         }
     }
-    if (const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam), breadthText)) {
+    if (const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam.Group), breadthText)) {
         std::stable_partition(texts.begin(), texts.end(), [&breadth](std::string_view species) {
             return FindSpecies(breadth->Key, species) != nullptr;
         });

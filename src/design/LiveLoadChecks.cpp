@@ -9,9 +9,7 @@ Message AttentionRefusal(std::string_view text, std::string_view focus)
 {
     std::string lines = "Attention:\n";
     lines += text;
-    Message message = Refusal(lines, focus);
-    message.Icon = MessageIcon::Warning;
-    return message;
+    return Marked(Refusal(lines, focus), MessageIcon::Warning);
 }
 
 std::optional<Message> LiveAboveTotal(const LoadNumbers& loads)

@@ -10,7 +10,8 @@ namespace {
 
 class PictureReader {
 public:
-    explicit PictureReader(const Session& session) : beam(ReadBeamNumbers(session.Problem))
+    explicit PictureReader(const Session& session)
+        : beam(ReadBeamNumbers(session.Problem)), entries(session.Problem.Loads)
     {
         picture.Support = beam.Support;
         picture.SpanCount = beam.IsContinuous() ? (beam.ThreeSpan ? 3 : 2) : 1;
@@ -20,10 +21,19 @@ public:
 
     LoadPicture Read()
     {
-        AddUniform();
-        if (beam.Support == SupportCondition::SimpleSpan || beam.IsOverhanging()) {
-            AddPoints();
-            AddPartials();
+        switch (beam.Support) {
+            case SupportCondition::HipValley:
+                AddRoof();
+                break;
+            case SupportCondition::MultipleSpans:
+                AddUniform();
+                break;
+            case SupportCondition::SimpleSpan:
+            case SupportCondition::Overhanging:
+                AddUniform();
+                AddPoints();
+                AddPartials();
+                break;
         }
         return picture;
     }
@@ -34,16 +44,24 @@ private:
         return beam.IsOverhanging() && slot >= first;
     }
 
-    void AddUniform()
+    void AddUniform() { AddOverSpan(PictureLoadKind::Uniform, beam.Loads.UNIF, beam.Loads.LUNIF); }
+
+    void AddRoof()
     {
-        const double total = std::max(beam.Loads.UNIF, beam.Loads.LUNIF);
-        if (total > 0) {
-            picture.Loads.push_back({.Kind = PictureLoadKind::Uniform,
+        AddOverSpan(PictureLoadKind::Beside, Val(entries.IncUnifTL), Val(entries.IncUnifLL));
+        AddOverSpan(PictureLoadKind::Rising, Val(entries.IncTL), Val(entries.IncLL));
+        picture.Equivalent = beam.Loads.UNIF;
+    }
+
+    void AddOverSpan(PictureLoadKind kind, double total, double live)
+    {
+        if (std::max(total, live) > 0) {
+            picture.Loads.push_back({.Kind = kind,
                                      .Letter = 'A',
                                      .Begin = 0,
                                      .End = picture.SpanCount * beam.Span,
-                                     .Total = total,
-                                     .Live = beam.Loads.LUNIF});
+                                     .Total = std::max(total, live),
+                                     .Live = live});
         }
     }
 
@@ -91,6 +109,7 @@ private:
     }
 
     BeamNumbers beam;
+    const LoadSet& entries;
     LoadPicture picture;
 };
 
@@ -127,9 +146,42 @@ std::string DescribeSupport(const LoadPicture& picture)
     return {};
 }
 
+std::string NameOf(const PictureLoad& load)
+{
+    switch (load.Kind) {
+        case PictureLoadKind::Rising:
+            return "Roof load";
+        case PictureLoadKind::Beside:
+            return "Uniform load beside it";
+        case PictureLoadKind::Uniform:
+        case PictureLoadKind::Point:
+        case PictureLoadKind::Partial:
+            break;
+    }
+    return "Load " + std::string(1, load.Letter);
+}
+
+std::string_view UnitOf(PictureLoadKind kind)
+{
+    switch (kind) {
+        case PictureLoadKind::Point:
+            return " lb";
+        case PictureLoadKind::Rising:
+            return " psf";
+        case PictureLoadKind::Uniform:
+        case PictureLoadKind::Partial:
+        case PictureLoadKind::Beside:
+            break;
+    }
+    return " plf";
+}
+
 std::string DescribePlace(const PictureLoad& load)
 {
-    if (load.Kind == PictureLoadKind::Uniform) {
+    if (load.Kind == PictureLoadKind::Rising) {
+        return ", rising from R1 to R2";
+    }
+    if (load.Kind == PictureLoadKind::Uniform || load.Kind == PictureLoadKind::Beside) {
         return " over the whole span";
     }
     if (!load.HasPlace) {
@@ -154,11 +206,12 @@ std::string DescribePicture(const LoadPicture& picture)
 {
     std::string text = DescribeSupport(picture);
     for (const PictureLoad& load : picture.Loads) {
-        const bool isPoint = load.Kind == PictureLoadKind::Point;
-        text += " Load ";
-        text += load.Letter;
-        text += ": " + PlainNumber(load.Total) + (isPoint ? " lb" : " plf");
-        text += ", live " + PlainNumber(load.Live) + DescribePlace(load) + ".";
+        text += " " + NameOf(load) + ": " + PlainNumber(Single(load.Total));
+        text += UnitOf(load.Kind);
+        text += ", live " + PlainNumber(Single(load.Live)) + DescribePlace(load) + ".";
+    }
+    if (picture.Equivalent > 0) {
+        text += " Equivalent uniform load: " + PlainNumber(Single(picture.Equivalent)) + " plf.";
     }
     if (!picture.UnbalancedLine.empty()) {
         text += " " + picture.UnbalancedLine + ".";

@@ -8,7 +8,8 @@
 
 namespace kordavan {
 
-enum class PictureLoadKind { Uniform, Point, Partial };
+/// Rising is the roof load of a hip or valley, Beside the uniform load that may stand beside it.
+enum class PictureLoadKind { Uniform, Point, Partial, Rising, Beside };
 
 /// One load as a sketch shows it.
 struct PictureLoad {
@@ -17,7 +18,7 @@ struct PictureLoad {
     std::size_t Slot = 0;
     double Begin = 0;  // ft from R1; a load on the overhang stands beyond the span
     double End = 0;    // as Begin for a point load
-    double Total = 0;  // lb or plf
+    double Total = 0;  // lb or plf; psf of a rising load
     double Live = 0;
     bool HasPlace = true;  // false where its distances do not say where it stands
     bool OnOverhang = false;
@@ -30,6 +31,7 @@ struct LoadPicture {
     double Span = 0;      // ft; 0 while there is none to read
     double Overhang = 0;  // ft
     std::vector<PictureLoad> Loads;
+    double Equivalent = 0;       // plf; the load that stands for a rising one, 0 while there is none
     std::string UnbalancedLine;  // which live loads are out, if any
 
     double Length() const { return SpanCount * Span + Overhang; }

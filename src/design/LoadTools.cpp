@@ -113,9 +113,9 @@ void WriteHipLoads(const HipValleyLoads& hip, Session& session)
 
 }  // namespace
 
-Outcome MultiplyTributary(BeamProblem& problem, UserPort& user)
+Outcome MultiplyTributary(Session& session, UserPort& user)
 {
-    LoadSet& loads = problem.Loads;
+    LoadSet& loads = session.Problem.Loads;
     const double length = Val(loads.Tribute);
     const double total = Val(loads.Text2);
     const double live = Val(loads.Text1);
@@ -135,6 +135,7 @@ Outcome MultiplyTributary(BeamProblem& problem, UserPort& user)
     }
     loads.LUNIF = LoadText(live * length);
     loads.UNIF = LoadText(total * length);
+    session.Multiplied = loads;
     return Outcome::Done;
 }
 
@@ -190,6 +191,25 @@ Outcome CalculateHipValley(Session& session, UserPort& user)
     }
     WriteHipLoads(hip, session);
     return Outcome::Done;
+}
+
+void RestoreIncreasingLoads(Session& session)
+{
+    session.IncreasingTotalLoad = 0;
+    session.IncreasingLiveLoad = 0;
+    const BeamProblem& problem = session.Problem;
+    const LoadSet& loads = problem.Loads;
+    if (problem.Support != SupportCondition::HipValley) {
+        return;
+    }
+    const double fromUniform = Val(problem.Span) / EquivalentUniformFactor;
+    const double beside = problem.Roofbutton
+                              ? Val(GrownLoad(loads.IncUnifTL, loads.IncUnifLL, RafterSlopeFactor(problem)))
+                              : Val(loads.IncUnifTL);
+    session.IncreasingTotalLoad = Single((Val(loads.UNIF) - beside) * fromUniform);
+    if (!loads.LUNIF.empty()) {
+        session.IncreasingLiveLoad = Single((Val(loads.LUNIF) - Val(loads.IncUnifLL)) * fromUniform);
+    }
 }
 
 }  // namespace kordavan

@@ -6,7 +6,7 @@
 namespace kordavan {
 
 /// Uniform load calculator: psf times tributary length into LUNIF and UNIF.
-Outcome MultiplyTributary(BeamProblem& problem, UserPort& user);
+Outcome MultiplyTributary(Session& session, UserPort& user);
 
 /// Partial load calculator: psf times tributary length into PAR and LPAR, row by row. Rows without a
 /// tributary length, and values that are not above 0, leave their boxes as they are. A product beyond any
@@ -23,5 +23,10 @@ void ClearPartialCalculator(BeamProblem& problem);
 /// more, as its button is off.
 /// A refusal leaves everything as it was, save a span already written by Span Auto-Calc.
 Outcome CalculateHipValley(Session& session, UserPort& user);
+
+/// Works out the increasing load behind the equivalent one in the boxes, where entries came from a file: the
+/// file holds only the latter, and the reactions need the former. Entries of other support conditions have
+/// none.
+void RestoreIncreasingLoads(Session& session);
 
 }  // namespace kordavan

@@ -27,13 +27,6 @@ void ClearUniformCalculator(LoadSet& loads)
     loads.Tribute.clear();
 }
 
-void ClearPartialCalculatorRows(LoadSet& loads)
-{
-    loads.PSF = {};
-    loads.LPSF = {};
-    loads.TribPSF = {};
-}
-
 void ForgetAdjustments(Session& session)
 {
     session.Unbalanced = {};
@@ -101,6 +94,20 @@ void ClearPartialRow(LoadSet& loads, std::size_t slot)
     loads.ENDP[slot].clear();
 }
 
+void ClearPartialCalculatorRow(LoadSet& loads, std::size_t slot)
+{
+    loads.PSF[slot].clear();
+    loads.LPSF[slot].clear();
+    loads.TribPSF[slot].clear();
+}
+
+void ClearPartialCalculatorRows(LoadSet& loads)
+{
+    for (std::size_t slot = 0; slot < PartialSlotCount; ++slot) {
+        ClearPartialCalculatorRow(loads, slot);
+    }
+}
+
 void ClearUniformLoad(LoadSet& loads)
 {
     loads.UNIF.clear();
@@ -127,6 +134,14 @@ std::string_view NextDuration(std::string_view text)
     const auto* const found = std::find(factors.begin(), factors.end(), text);
     const bool hasNext = found != factors.end() && found + 1 != factors.end();
     return hasNext ? *(found + 1) : factors.front();
+}
+
+void StepDeflectionLimits(Session& session)
+{
+    session.DeflectionLimitsInHand = (session.DeflectionLimitsInHand + 1) % DeflectionLimitCycle.size();
+    const DeflectionLimits& limits = DeflectionLimitCycle[session.DeflectionLimitsInHand];
+    session.Problem.LMaxDefl = limits.LMaxDefl;
+    session.Problem.MaxDefl = limits.MaxDefl;
 }
 
 LoadPair NextLoadPair(std::span<const LoadPair> pairs, const LoadPair& boxes)

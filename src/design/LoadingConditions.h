@@ -17,6 +17,8 @@ void SwitchSupport(Session& session, SupportCondition support);
 
 void ClearPointRow(LoadSet& loads, std::size_t slot);
 void ClearPartialRow(LoadSet& loads, std::size_t slot);
+void ClearPartialCalculatorRow(LoadSet& loads, std::size_t slot);
+void ClearPartialCalculatorRows(LoadSet& loads);
 void ClearUniformLoad(LoadSet& loads);
 void ClearPointLoads(LoadSet& loads);
 void ClearPartialLoads(LoadSet& loads);
@@ -34,7 +36,10 @@ inline constexpr std::array DeflectionLimitCycle{
     DeflectionLimits{"", "360"},    DeflectionLimits{"", "240"},    DeflectionLimits{"360", "240"},
     DeflectionLimits{"480", "240"}, DeflectionLimits{"240", "180"},
 };
-inline constexpr std::size_t FirstDeflectionLimits = 2;  // the pair that a new problem has
+
+/// Writes the next pair of limits; the cycle begins at the pair that a new problem has, whatever the boxes
+/// hold.
+void StepDeflectionLimits(Session& session);
 
 /// A pair of commonly used uniform loads.
 struct LoadPair {

@@ -68,10 +68,7 @@ SizeFamily FamilyOf(const CustomEntry& custom)
 
 SizeFamily FamilyOf(const MemberEntry& entry, SpeciesGroup group)
 {
-    if (group == SpeciesGroup::Custom) {
-        return FamilyOf(entry.Custom);
-    }
-    return group == SpeciesGroup::SouthernPine ? SizeFamily::SouthernPineListed : SizeFamily::Listed;
+    return group == SpeciesGroup::Custom ? FamilyOf(entry.Custom) : FamilyOf(group);
 }
 
 Outcome IdentifyRound(const MemberEntry& entry, UserPort& user, MemberCandidate& candidate)

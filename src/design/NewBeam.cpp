@@ -7,6 +7,7 @@
 
 #include "core/NumberText.h"
 #include "design/EntryAdjustment.h"
+#include "design/LoadingConditions.h"
 
 namespace kordavan {
 
@@ -33,9 +34,27 @@ bool AskUnder(std::string_view title, std::string_view text, UserPort& user)
     return user.Ask(question);
 }
 
+Message RiskyQuestion(std::string_view text)
+{
+    Message question = Question(text);
+    question.IsRisky = true;
+    return question;
+}
+
 bool HasNotes(const ReportNoteLines& notes)
 {
     return std::any_of(notes.begin(), notes.end(), [](const std::string& line) { return !line.empty(); });
+}
+
+/// The psf calculators only serve to fill load boxes.
+BeamProblem WithoutCalculators(BeamProblem problem)
+{
+    LoadSet& loads = problem.Loads;
+    loads.Tribute.clear();
+    loads.Text1.clear();
+    loads.Text2.clear();
+    ClearPartialCalculatorRows(loads);
+    return problem;
 }
 
 void AskAboutNotes(Session& session, UserPort& user)
@@ -69,7 +88,7 @@ Outcome OfferNewBeam(Session& session, UserPort& user)
 {
     if (HasUnsavedEntries(session)) {
         const std::string question = std::string(EntriesNotSaved) + "\nDo you wish to start a new beam?";
-        if (!user.Ask(Question(question))) {
+        if (!user.Ask(RiskyQuestion(question))) {
             return Outcome::Refused;
         }
     }
@@ -90,10 +109,7 @@ Outcome OfferNewBeamAfterReport(Session& session, UserPort& user)
 
 bool HasUnsavedEntries(const Session& session)
 {
-    Session asTyped = session;
-    RestoreEntries(asTyped);
-    RestoreHipLoads(asTyped);
-    return asTyped.Problem != session.KeptProblem;
+    return WithoutCalculators(TypedEntries(session)) != WithoutCalculators(session.KeptProblem);
 }
 
 Message ExitQuestion(const Session& session, int minutesUsed)
@@ -104,7 +120,7 @@ Message ExitQuestion(const Session& session, int minutesUsed)
         text += "\n";
         text += EntriesNotSaved;
     }
-    return Question(text);
+    return RiskyQuestion(text);
 }
 
 }  // namespace kordavan

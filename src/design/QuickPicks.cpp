@@ -40,12 +40,9 @@ constexpr std::array Groups{
 constexpr std::array<std::string_view, 6> SecondGradeBreadths{"2x", "(2) 2x", "(3) 2x", "(4) 2x", "4x", "6x"};
 constexpr std::array<std::string_view, 4> FirstGradeBreadths{"4x", "6x", "8x", "10x"};
 constexpr std::size_t BreadthsOfFirstSpecies = 3;  // its No. 1 row ends at 8x
-constexpr std::array<std::string_view, 5> GlulamBreadths{"3-1/8x", "5-1/8x", "6-3/4x", "8-3/4x", "10-3/4x"};
-constexpr std::array<std::string_view, 5> SouthernPineGlulamBreadths{"3-1/8x", "5-1/8x", "6-3/4x", "8-1/2x",
-                                                                     "10-1/2x"};
 
 static_assert(2 * SecondGradeBreadths.size() + BreadthsOfFirstSpecies + FirstGradeBreadths.size() +
-                  GlulamBreadths.size() ==
+                  GlulamLadder.size() ==
               QuickPickCount);
 
 const GroupSpecies& SpeciesOf(SpeciesGroup group)
@@ -58,16 +55,6 @@ const GroupSpecies& SpeciesOf(SpeciesGroup group)
 bool IsSouthernPine(const BeamNumbers& beam)
 {
     return beam.Group == SpeciesGroup::SouthernPine;
-}
-
-SizeFamily FamilyOf(const BeamNumbers& beam)
-{
-    return IsSouthernPine(beam) ? SizeFamily::SouthernPineListed : SizeFamily::Listed;
-}
-
-const std::array<std::string_view, 5>& GlulamBreadthsOf(const BeamNumbers& beam)
-{
-    return IsSouthernPine(beam) ? SouthernPineGlulamBreadths : GlulamBreadths;
 }
 
 /// Combinations with tension laminations on the bottom for simple spans, balanced ones where moments turn.
@@ -155,26 +142,26 @@ class Pretest {
 public:
     Pretest(Session& tested, UserPort& port) : session(tested), user(port) {}
 
-    /// Walks from this depth to the smallest that passes; false when none does.
-    bool Walk(MemberEntry& entry)
+    /// Walks from this depth to the smallest that passes.
+    PickState Walk(MemberEntry& entry)
     {
         if (!Test(entry)) {
-            return false;
+            return PickState::NotTested;
         }
         while (!Passes()) {
             if (!Step(entry, session.Member.Candidate.NextLargerDepthText)) {
-                return false;
+                return PickState::NonePasses;
             }
             if (Passes()) {
-                return true;
+                return PickState::Filled;
             }
         }
         while (session.Member.Result.NextSmallerOk) {
             if (!Step(entry, session.Member.Candidate.NextSmallerDepthText)) {
-                return false;
+                return PickState::NonePasses;
             }
         }
-        return true;
+        return PickState::Filled;
     }
 
 private:
@@ -198,7 +185,7 @@ private:
 void FillCell(Session& session, UserPort& user, QuickPick& cell)
 {
     const BeamNumbers& beam = session.Numbers;
-    const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam), cell.BreadthText);
+    const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam.Group), cell.BreadthText);
     const SpeciesRow* const row = breadth ? FindSpecies(breadth->Key, cell.SpeciesText) : nullptr;
     if (row == nullptr) {
         return;
@@ -211,9 +198,9 @@ void FillCell(Session& session, UserPort& user, QuickPick& cell)
     MemberEntry entry;
     entry.BreadthText = cell.BreadthText;
     entry.SpeciesText = cell.SpeciesText;
-    entry.DepthText = StartDepth(DepthsOf(FamilyOf(beam), *breadth), estimate, breadth->Key);
-    if (Pretest(session, user).Walk(entry)) {
-        cell.State = PickState::Filled;
+    entry.DepthText = StartDepth(DepthsOf(FamilyOf(beam.Group), *breadth), estimate, breadth->Key);
+    cell.State = Pretest(session, user).Walk(entry);
+    if (cell.State == PickState::Filled) {
         cell.DepthText = entry.DepthText;
     }
 }
@@ -231,7 +218,7 @@ std::string ValuesInUse(const BeamNumbers& beam)
 /// Timbers and glulams, which repetitive use does not raise.
 bool IsUnfitForRepetition(const QuickPick& pick, const BeamNumbers& beam)
 {
-    const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam), pick.BreadthText);
+    const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam.Group), pick.BreadthText);
     return breadth && (breadth->Key == BreadthKey::SixBy || breadth->Key == BreadthKey::Glulam);
 }
 
@@ -241,9 +228,11 @@ std::string_view WhyEmpty(PickState state)
         case PickState::UnderLadder:
             return "Empty: the estimated depth is under 3.5 in. A small size can be typed below and tested.";
         case PickState::PastLadder:
-            return "Empty: no depth of this breadth is deep enough.";
+            return "Empty: the estimated depth is past 17.5 in. A size can be typed below and tested.";
         case PickState::NonePasses:
             return "Empty: no depth of this breadth passes every check.";
+        case PickState::NotTested:
+            return "Empty: the test was refused.";
         case PickState::Filled:
             break;
     }
@@ -277,12 +266,12 @@ QuickPicks QuickPickCells(const BeamNumbers& beam)
 {
     const GroupSpecies& species = SpeciesOf(beam.Group);
     const std::span<const std::string_view> firstGrade(FirstGradeBreadths);
-    CellWriter writer(FamilyOf(beam));
+    CellWriter writer(FamilyOf(beam.Group));
     writer.AddRow(species.FirstSecondGrade, SecondGradeBreadths);
     writer.AddRow(species.FirstFirstGrade, firstGrade.first(BreadthsOfFirstSpecies));
     writer.AddRow(species.SecondSecondGrade, SecondGradeBreadths);
     writer.AddRow(species.SecondFirstGrade, firstGrade);
-    writer.AddRow(GlulamOf(beam), GlulamBreadthsOf(beam));
+    writer.AddRow(GlulamOf(beam), GlulamLadderOf(beam.Group));
     return writer.Cells();
 }
 
@@ -307,7 +296,7 @@ SelectionTexts MakeSelectionTexts(const Session& session)
     texts.MOMENT = FormatNumber(analysis.MaxMomentApplied, "#,###") + " ft-lbs";
     texts.Reac1 = "Reaction 1 = " + FormatNumber(analysis.R1Applied, "#,##0");
     texts.Reac2 = "Reaction 2 = " + FormatNumber(analysis.R2Applied, "#,###");
-    texts.GlulamHeads = GlulamBreadthsOf(session.Numbers);
+    texts.GlulamHeads = GlulamLadderOf(session.Numbers.Group);
     texts.RepQualify = session.Numbers.Rep ? SelectionScreenTexts::RepQualify : std::string_view{};
     texts.WoodStatisPanel = WoodResultLine(session.Selection);
     return texts;

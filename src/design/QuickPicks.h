@@ -13,7 +13,7 @@ namespace kordavan {
 inline constexpr std::size_t QuickPickCount = 24;
 
 /// Why a quick pick offers no depth.
-enum class PickState { Filled, UnderLadder, PastLadder, NonePasses };
+enum class PickState { Filled, UnderLadder, PastLadder, NonePasses, NotTested };
 
 struct QuickPick {
     std::string_view BreadthText;

@@ -41,6 +41,13 @@ inline constexpr std::size_t ReportNoteLength = 85;
 /// Notes of the person's own for the foot of a record.
 using ReportNoteLines = std::array<std::string, ReportNoteCount>;
 
+/// What a print-out is headed with.
+struct PrintHeader {
+    std::string Heading1;
+    std::string Heading2;
+    std::string Initialbox;  // the designer's initials
+};
+
 /// One beam at work, from its entries to the member tested last.
 struct Session {
     BeamProblem Problem;
@@ -58,9 +65,13 @@ struct Session {
     bool SoPineLowered = false;  // left by the last test of a #2 Southern Pine
     MemberTest Member;
 
+    std::size_t DeflectionLimitsInHand = 2;  // place in the cycle of the adjusting button
+    std::optional<LoadSet> Multiplied;       // the loads as the uniform calculator left them
+
     MemberEntry Entry;                         // the size boxes of the selection screen
     std::optional<SelectionRecord> Selection;  // withdrawn by every change of the entries
     ReportNoteLines NoteClipboard;
+    PrintHeader Header;
 
     BeamProblem KeptProblem;  // the entries as last saved, or as a new beam begins
 };

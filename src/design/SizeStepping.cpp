@@ -14,9 +14,6 @@ namespace {
 
 constexpr std::array<std::string_view, 10> SawnBreadths{"2x", "(2) 2x", "4x",  "(3) 2x", "(4) 2x",
                                                         "6x", "8x",     "10x", "12x",    "14x"};
-constexpr std::array<std::string_view, 5> GlulamBreadths{"3-1/8x", "5-1/8x", "6-3/4x", "8-3/4x", "10-3/4x"};
-constexpr std::array<std::string_view, 5> SouthernPineGlulamBreadths{"3-1/8x", "5-1/8x", "6-3/4x", "8-1/2x",
-                                                                     "10-1/2x"};
 
 /// Stands beside the sawn ladder: up from it leads to the two-ply member, down to none.
 constexpr std::string_view ThreeInch = "3x";
@@ -26,8 +23,7 @@ std::span<const std::string_view> LadderOf(const MemberCandidate& member, Specie
     if (member.BreadthKey != BreadthKey::Glulam) {
         return SawnBreadths;
     }
-    return group == SpeciesGroup::SouthernPine ? std::span<const std::string_view>(SouthernPineGlulamBreadths)
-                                               : std::span<const std::string_view>(GlulamBreadths);
+    return GlulamLadderOf(group);
 }
 
 /// Steps that the ladders would allow and that are not offered.

@@ -129,9 +129,7 @@ Outcome DeflectSize(const TestCase& test, const SizeTest& size, UserPort& user, 
     if (IsFinite(deflection)) {
         return Outcome::Done;
     }
-    Message fault = Refusal(DeflectionError);
-    fault.Icon = MessageIcon::Warning;
-    return Refuse(user, fault);
+    return Refuse(user, Marked(Refusal(DeflectionError), MessageIcon::Warning));
 }
 
 bool IsFiniteTest(const SizeTest& size)

@@ -11,13 +11,9 @@ namespace kordavan {
 namespace {
 
 constexpr double RowShare = 0.24;       // of the room over the beam, for one row of distributed loads
+constexpr double RoofRowShare = 0.45;   // the same of a roof, which has no other loads
+constexpr double RoomShare = 0.95;      // of the room over the beam, for all rows
 constexpr double LeastBarShare = 0.35;  // of a row, for the smallest load
-constexpr int MostRows = 3;
-
-QString FeetText(double feet)
-{
-    return Text(FormatNumber(feet, "#0.00") + " ft");
-}
 
 QColor Faded(QColor color)
 {
@@ -26,11 +22,35 @@ QColor Faded(QColor color)
     return color;
 }
 
+/// Beyond this a number is shown with an exponent, as it would not fit.
+constexpr double MostShown = 1e7;
+
+std::string NumberText(double value)
+{
+    return value < MostShown ? FormatNumber(value, "#,##0") : QString::number(value, 'g', 3).toStdString();
+}
+
+QString FeetText(double feet)
+{
+    return Text((feet < MostShown ? FormatNumber(feet, "#0.00") : NumberText(feet)) + " ft");
+}
+
 QString LoadCaption(const PictureLoad& load)
 {
     std::string caption(1, load.Letter);
-    caption += " " + FormatNumber(load.Total, "#,##0");
-    return Text(caption);
+    switch (load.Kind) {
+        case PictureLoadKind::Rising:
+            caption = "Roof load, psf:";
+            break;
+        case PictureLoadKind::Beside:
+            caption = "Uniform beside it, plf:";
+            break;
+        case PictureLoadKind::Uniform:
+        case PictureLoadKind::Point:
+        case PictureLoadKind::Partial:
+            break;
+    }
+    return Text(caption + " " + NumberText(load.Total));
 }
 
 }  // namespace
@@ -55,30 +75,35 @@ BeamPainter::BeamPainter(QPainter& thePainter, const QRectF& wholeArea, const Sk
 
 std::vector<DrawnLoad> BeamPainter::Draw(const LoadPicture& picture)
 {
-    support = picture.Support;
     const double side = 3.5 * lineHeight;
     left = area.left() + side;
     right = area.right() - side;
     beamY = area.bottom() - 2.8 * lineHeight;
     const double length = picture.Length() > 0 ? picture.Length() : 1;
     perFoot = (right - left) / length;
+    mostRowShare = picture.Support == SupportCondition::HipValley ? RoofRowShare : RowShare;
     for (const PictureLoad& load : picture.Loads) {
         double& largest = load.Kind == PictureLoadKind::Point ? largestPoint : largestDistributed;
         largest = std::max(largest, load.Total);
     }
     painter.setRenderHint(QPainter::Antialiasing);
+    const bool hasSpan = picture.Span > 0;
+    std::vector<int> rowOf;
     for (const PictureLoad& load : picture.Loads) {
-        const bool isKnown = picture.Span > 0 && load.HasPlace;
-        if (!isKnown) {
+        const bool takesRow = hasSpan && load.HasPlace && load.Kind != PictureLoadKind::Point;
+        rowOf.push_back(takesRow ? RowFor(Across(load.Begin), Across(load.End)) : 0);
+    }
+    for (std::size_t k = 0; k < picture.Loads.size(); ++k) {
+        const PictureLoad& load = picture.Loads[k];
+        if (!hasSpan || !load.HasPlace) {
             DrawUnplaced(load);
         } else if (load.Kind == PictureLoadKind::Point) {
             DrawPoint(load);
-        } else if (support == SupportCondition::HipValley) {
-            DrawRising(load);
         } else {
-            DrawDistributed(load);
+            DrawDistributed(load, rowOf[k]);
         }
     }
+    DrawEquivalent(picture);
     DrawBeam(picture);
     DrawDimensions(picture);
     return drawn;
@@ -89,10 +114,10 @@ double BeamPainter::Across(double feet) const
     return left + feet * perFoot;
 }
 
-double BeamPainter::RowTop(int row) const
+double BeamPainter::RowHeight() const
 {
-    const double room = beamY - area.top();
-    return beamY - room * RowShare * (row + 1);
+    const double count = std::max(static_cast<double>(rows.size()), 1.0);
+    return (beamY - area.top()) * std::min(mostRowShare, RoomShare / count);
 }
 
 /// The lowest row in which nothing stands yet between two places.
@@ -106,7 +131,7 @@ int BeamPainter::RowFor(double from, double to)
         const bool isFree = std::none_of(taken.begin(), taken.end(), [&](const auto& span) {
             return from < span.second && to > span.first;
         });
-        if (isFree || row == MostRows - 1) {
+        if (isFree) {
             taken.emplace_back(from, to);
             return row;
         }
@@ -160,39 +185,40 @@ void BeamPainter::DrawDimensions(const LoadPicture& picture)
     }
 }
 
-void BeamPainter::DrawDistributed(const PictureLoad& load)
+/// A bar, or the triangle of a load that rises from R1 to R2, the live part hatched.
+void BeamPainter::DrawDistributed(const PictureLoad& load, int row)
 {
-    const double from = Across(load.Begin);
-    const double to = Across(load.End);
-    const double rowHeight = (beamY - area.top()) * RowShare;
-    const double share = LeastBarShare + (1 - LeastBarShare) * load.Total / largestDistributed;
-    const double height = (rowHeight - 4) * share * 0.62;
-    const int row = RowFor(from, to);
-    const double bottom = RowTop(row) + rowHeight - 3;
-    const QRectF bar(from, bottom - height, to - from, height);
-    painter.fillRect(bar, TintOf(load));
+    constexpr double gap = 3;
+    const bool isRoof = load.Kind == PictureLoadKind::Rising || load.Kind == PictureLoadKind::Beside;
+    const double share = isRoof ? 1 : load.Total / largestDistributed;  // psf and plf do not compare
+    const double room = std::max(RowHeight() - lineHeight, gap);
+    const double height = room * (LeastBarShare + (1 - LeastBarShare) * share);
+    const QRectF bar(Across(load.Begin), beamY - row * RowHeight() - gap - height,
+                     (load.End - load.Begin) * perFoot, height);
     const double live = std::min(load.Live / load.Total, 1.0) * height;
-    painter.fillRect(QRectF(from, bottom - live, to - from, live), QBrush(ColorOf(load), Qt::BDiagPattern));
+    const auto shape = [&](double top) {
+        const bool rises = load.Kind == PictureLoadKind::Rising;
+        const QPointF corner(rises ? bar.right() : bar.left(), top);
+        return QPolygonF{bar.bottomLeft(), corner, {bar.right(), top}, bar.bottomRight()};
+    };
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QBrush(ColorOf(load), Qt::BDiagPattern));
+    painter.drawPolygon(shape(bar.bottom() - live));
     painter.setPen(ColorOf(load));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(bar);
-    DrawCaption(load, {(from + to) / 2, bar.top()}, Qt::AlignHCenter);
+    painter.setBrush(TintOf(load));
+    painter.drawPolygon(shape(bar.top()));
+    DrawCaption(load, {bar.center().x(), bar.top()});
     Remember(bar, load);
 }
 
-/// The load of a hip or valley rises from R1 to R2; the caption tells its equivalent.
-void BeamPainter::DrawRising(const PictureLoad& load)
+/// The uniform load of equal moment that stands for the rising one.
+void BeamPainter::DrawEquivalent(const LoadPicture& picture)
 {
-    const double height = (beamY - area.top()) * 0.55;
-    const QPolygonF triangle{{left, beamY - 3}, {right, beamY - 3}, {right, beamY - 3 - height}};
-    painter.setPen(ColorOf(load));
-    painter.setBrush(TintOf(load));
-    painter.drawPolygon(triangle);
-    painter.setPen(colors.Text);
-    const QRectF where(left, beamY - height - lineHeight, (right - left) * 0.6, lineHeight);
-    painter.drawText(where, Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("ETL %1 plf").arg(Text(FormatNumber(load.Total, "#,##0.0"))));
-    Remember(triangle.boundingRect(), load);
+    if (picture.Equivalent > 0) {
+        painter.setPen(colors.Text);
+        painter.drawText(area, Qt::AlignTop | Qt::AlignHCenter,
+                         QStringLiteral("ETL %1 plf").arg(Text(FormatNumber(picture.Equivalent, "#,##0.0"))));
+    }
 }
 
 void BeamPainter::DrawPoint(const PictureLoad& load)
@@ -214,7 +240,7 @@ void BeamPainter::DrawPoint(const PictureLoad& load)
     painter.drawRect(shaft);
     painter.setBrush(ColorOf(load));
     painter.drawPolygon(QPolygonF{{x, tip}, {x - 2 * half, shaftEnd}, {x + 2 * half, shaftEnd}});
-    DrawCaption(load, {x, top}, Qt::AlignHCenter);
+    DrawCaption(load, {x, top});
     Remember(QRectF(x - 5, top, 10, tip - top), load);
 }
 
@@ -228,22 +254,30 @@ void BeamPainter::DrawUnplaced(const PictureLoad& load)
     Remember(where, load);
 }
 
-/// Captions give way to those already drawn by standing a line higher, as long as there is room.
-void BeamPainter::DrawCaption(const PictureLoad& load, QPointF at, Qt::Alignment alignment)
+/// Captions give way to those already drawn: sideways, or by a line upwards, to the nearest free place.
+void BeamPainter::DrawCaption(const PictureLoad& load, QPointF at)
 {
     const QString caption = LoadCaption(load);
     const double width = painter.fontMetrics().horizontalAdvance(caption) + 6;
-    QRectF where(at.x() - width / 2, at.y() - lineHeight, width, lineHeight);
-    const auto overlaps = [&] {
-        return std::any_of(captions.begin(), captions.end(),
-                           [&](const QRectF& other) { return other.intersects(where); });
+    const QRectF middle(at.x() - width / 2, at.y() - lineHeight, width, lineHeight);
+    const auto isFree = [&](const QRectF& where) {
+        const bool isInside =
+            where.top() >= area.top() && where.left() >= area.left() && where.right() <= area.right();
+        return isInside && std::none_of(captions.begin(), captions.end(),
+                                        [&where](const QRectF& other) { return other.intersects(where); });
     };
-    while (overlaps() && where.top() - lineHeight >= area.top()) {
-        where.translate(0, -lineHeight);
+    QRectF where = middle;
+    for (const QPointF& shift :
+         {QPointF(0, 0), QPointF(width / 2, 0), QPointF(-width / 2, 0), QPointF(0, -lineHeight),
+          QPointF(width, 0), QPointF(-width, 0), QPointF(0, -2 * lineHeight)}) {
+        if (isFree(middle.translated(shift))) {
+            where = middle.translated(shift);
+            break;
+        }
     }
     captions.push_back(where);
     painter.setPen(load.OnOverhang ? ColorOf(load) : colors.Text);
-    painter.drawText(where, static_cast<int>(alignment | Qt::AlignVCenter), caption);
+    painter.drawText(where, Qt::AlignCenter, caption);
 }
 
 QColor BeamPainter::ColorOf(const PictureLoad& load) const

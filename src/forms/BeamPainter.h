@@ -41,17 +41,17 @@ public:
 
 private:
     double Across(double feet) const;
-    double RowTop(int row) const;
+    double RowHeight() const;
     int RowFor(double left, double right);
 
     void DrawBeam(const LoadPicture& picture);
     void DrawSupport(double x, int number);
     void DrawDimensions(const LoadPicture& picture);
-    void DrawDistributed(const PictureLoad& load);
-    void DrawRising(const PictureLoad& load);
+    void DrawDistributed(const PictureLoad& load, int row);
+    void DrawEquivalent(const LoadPicture& picture);
     void DrawPoint(const PictureLoad& load);
     void DrawUnplaced(const PictureLoad& load);
-    void DrawCaption(const PictureLoad& load, QPointF at, Qt::Alignment alignment);
+    void DrawCaption(const PictureLoad& load, QPointF at);
     QColor ColorOf(const PictureLoad& load) const;
     QColor TintOf(const PictureLoad& load) const;
     void Remember(const QRectF& where, const PictureLoad& load);
@@ -64,10 +64,10 @@ private:
     double right = 0;
     double beamY = 0;
     double perFoot = 1;
+    double mostRowShare = 0;
     double largestDistributed = 0;
     double largestPoint = 0;
     int unplacedCount = 0;
-    SupportCondition support = SupportCondition::SimpleSpan;
     std::vector<std::vector<std::pair<double, double>>> rows;
     std::vector<QRectF> captions;
     std::vector<DrawnLoad> drawn;

@@ -48,6 +48,9 @@ void Bindings::BindText(QLineEdit& box, std::string& text)
         const QString shown = Text(text);
         if (box.text() != shown) {
             box.setText(shown);
+            if (!box.hasFocus()) {
+                box.setCursorPosition(0);  // a text longer than its box shows how it begins
+            }
         }
     });
 }

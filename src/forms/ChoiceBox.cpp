@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QCoreApplication>
-#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QStringListModel>
 
@@ -37,26 +36,7 @@ void ChoiceBox::SetChoices(const std::vector<std::string_view>& texts)
 
 QSize ChoiceBox::sizeHint() const
 {
-    return {DigitsWidth(*this, digitCount), QLineEdit::sizeHint().height()};
-}
-
-void ChoiceBox::focusInEvent(QFocusEvent* event)
-{
-    QLineEdit::focusInEvent(event);
-    if (event->reason() != Qt::PopupFocusReason) {
-        selectAll();
-    }
-    selectsOnRelease = event->reason() == Qt::MouseFocusReason;
-}
-
-/// The click that brought the focus has put the caret somewhere; the whole text is meant.
-void ChoiceBox::mouseReleaseEvent(QMouseEvent* event)
-{
-    QLineEdit::mouseReleaseEvent(event);
-    if (selectsOnRelease && !hasSelectedText()) {
-        selectAll();
-    }
-    selectsOnRelease = false;
+    return {DigitsWidth(*this, digitCount), TextBox::sizeHint().height()};
 }
 
 void ChoiceBox::keyPressEvent(QKeyEvent* event)
@@ -73,7 +53,7 @@ void ChoiceBox::keyPressEvent(QKeyEvent* event)
         PassOn(*event);
         return;
     }
-    QLineEdit::keyPressEvent(event);
+    TextBox::keyPressEvent(event);
 }
 
 /// Enter means the form's command, not only the end of a list from which nothing was chosen.

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QLineEdit>
 #include <string_view>
 #include <vector>
 
 #include "forms/Kit.h"
+#include "forms/TextBox.h"
 
 class QStringListModel;
 
@@ -12,7 +12,7 @@ namespace kordavan {
 
 /// A text box that offers the exact texts it takes, as they are typed or all of them on Down. A text chosen
 /// from those counts as typed.
-class ChoiceBox : public QLineEdit {
+class ChoiceBox : public TextBox {
     Q_OBJECT
 
 public:
@@ -25,8 +25,6 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -35,7 +33,6 @@ private:
 
     int digitCount;
     QStringListModel* choices;
-    bool selectsOnRelease = false;
 };
 
 }  // namespace kordavan

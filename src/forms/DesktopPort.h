@@ -14,7 +14,7 @@ public:
 
     virtual CalendarDay Today() = 0;
     virtual int MinutesSinceStart() = 0;
-    virtual void OpenFileExplorer() = 0;
+    virtual bool OpenFileExplorer() = 0;  // false when there is none
     virtual void EndProgram() = 0;
 };
 

@@ -37,9 +37,6 @@ void DialogUser::Tell(const Message& message)
     if (isSpeaking) {
         return;
     }
-    if (message.Kind == MessageKind::Refusal || !message.Focus.empty()) {
-        QApplication::beep();
-    }
     QMessageBox box(QApplication::activeWindow());
     box.setStandardButtons(QMessageBox::Ok);
     Show(box, message);
@@ -52,13 +49,17 @@ bool DialogUser::Ask(const Message& question)
     }
     QMessageBox box(QApplication::activeWindow());
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::Yes);
+    box.setDefaultButton(question.IsRisky ? QMessageBox::No : QMessageBox::Yes);
     return Show(box, question) == QMessageBox::Yes;
 }
 
 int DialogUser::Show(QMessageBox& box, const Message& message)
 {
     isSpeaking = true;
+    const bool isHelp = message.Icon == MessageIcon::Information;
+    if (!isHelp) {
+        QApplication::beep();
+    }
     box.setWindowFlag(Qt::WindowStaysOnTopHint);  // over the calculator too
     box.setTextFormat(Qt::PlainText);
     box.setIcon(IconOf(message));

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace kordavan {
@@ -38,6 +39,11 @@ Form::Form(Walk& theWalk, std::string_view name)
     column->addWidget(MakeRule());
     column->addWidget(footArea);
     setCentralWidget(all);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+        if (now != nullptr && scroll->widget()->isAncestorOf(now)) {
+            scroll->ensureWidgetVisible(now);
+        }
+    });
 }
 
 void Form::FocusOn(std::string_view control)
@@ -57,7 +63,15 @@ void Form::FocusOn(std::string_view control)
 void Form::FitToScreen()
 {
     const QSize room = QApplication::primaryScreen()->availableGeometry().size();
-    resize(sizeHint().boundedTo(room));
+    QSize size = sizeHint();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    if (size.width() > room.width()) {
+        size.rheight() += scrollBar;
+    }
+    if (size.height() > room.height()) {
+        size.rwidth() += scrollBar;
+    }
+    resize(size.boundedTo(room));
 }
 
 QSize Form::sizeHint() const
@@ -71,7 +85,9 @@ QSize Form::sizeHint() const
 
 QMenu& Form::AddMenu(std::string_view caption)
 {
-    return *menuBar()->addMenu(Text(caption));
+    QMenu* const menu = menuBar()->addMenu(Text(caption));
+    menu->setToolTipsVisible(true);
+    return *menu;
 }
 
 QAction& Form::AddCommand(QMenu& menu, const ControlText& text, std::string_view caption,
@@ -79,7 +95,7 @@ QAction& Form::AddCommand(QMenu& menu, const ControlText& text, std::string_view
 {
     QAction* const action = menu.addAction(Text(caption));
     action->setObjectName(Text(text.Name));
-    action->setStatusTip(Text(text.Tip));
+    action->setToolTip(Text(text.Tip));
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, run);
     return *action;
@@ -113,9 +129,7 @@ HelpButton* Form::MakeHelp(const HelpText& help, std::initializer_list<std::stri
 
 void Form::TellHelp(std::string_view text)
 {
-    Message message = Alert(text);
-    message.Icon = MessageIcon::Information;
-    User().Tell(message);
+    User().Tell(Marked(Alert(text), MessageIcon::Information));
 }
 
 void Form::AddHelpMenu(std::string_view page)
@@ -172,8 +186,9 @@ void Form::keyPressEvent(QKeyEvent* event)
 /// A button in focus is pressed itself; from anywhere else Enter means the default command.
 void Form::PressDefault()
 {
-    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) {
-        button->click();
+    QWidget* const focus = focusWidget();
+    if (qobject_cast<QPushButton*>(focus) != nullptr || qobject_cast<QToolButton*>(focus) != nullptr) {
+        static_cast<QAbstractButton*>(focus)->click();
         return;
     }
     QAbstractButton* const command = DefaultCommand();

@@ -69,9 +69,8 @@ Screen DiagramOf(SupportCondition support)
 
 void TellFault(std::string_view what, UserPort& user)
 {
-    Message message = Alert(what);
+    Message message = Marked(Alert(what), MessageIcon::Warning);
     message.Title = "Kordavan Error: Form 1";
-    message.Icon = MessageIcon::Warning;
     user.Tell(message);
 }
 
@@ -110,6 +109,9 @@ void Form1::Activate()
 
 QAbstractButton* Form1::DefaultCommand()
 {
+    if (partialCalculator->isVisibleTo(this)) {
+        return &partialCalculator->InsertCommand();
+    }
     return DescribeCriteriaScreen(TheSession()).MustCalculateHipLoad ? &hipGroup->CalculateCommand()
                                                                      : calculate;
 }
@@ -136,6 +138,7 @@ QLayout* Form1::MakeHead()
         problem.Descrip, 3);
     material = new QComboBox;
     Describe(*material, {.Name = "Combo1", .Tip = "Material of the beam"});
+    IgnoreStrayWheel(*material);
     for (const SpeciesGroup group : MaterialsOffered) {
         material->addItem(Text(SpeciesGroups[static_cast<std::size_t>(group)].Text), static_cast<int>(group));
     }
@@ -177,10 +180,6 @@ QLayout* Form1::MakeLoads()
     tables->addWidget(multiGroup);
     row->addWidget(uniformGroup);
     row->addWidget(tables, 1);
-    connect(uniformGroup, &UniformLoadGroup::Multiplied, this, [this] {
-        multiplied = TheSession().Problem.Loads;
-        Refresh();
-    });
     connect(hipGroup, &HipValleyGroup::Calculated, this, [this] { FocusOn("CmdOK"); });
     return row;
 }
@@ -218,8 +217,8 @@ void Form1::MakeMenus()
     QMenu& file = AddMenu("&File");
     AddCommand(
         file, {"MnuNew"}, "&New Beam", [this] { StartNew(); }, QKeySequence::New);
-    AddCommand(file, {"MnuExplorer"}, "Open File &Explorer",
-               [this] { TheWalk().Desktop().OpenFileExplorer(); });
+    AddCommand(file, {"MnuExplorer", "The folder that the program works in"}, "Open File &Explorer",
+               [this] { OpenExplorer(); });
     AddExitCommand(file);
     AddToolsMenu();
     AddHelpMenu(Page);
@@ -268,10 +267,6 @@ void Form1::Refresh()
     hipGroup->ShowScreen(screen);
     multiGroup->ShowScreen(screen);
     tables->setCurrentIndex(static_cast<int>(screen.Tables));
-    if (multiplied && *multiplied != session.Problem.Loads) {
-        multiplied.reset();
-    }
-    uniformGroup->ShowMultiplied(multiplied.has_value());
     sketch->Show(ReadLoadPicture(session));
     resultLine->setText(Text(screen.SavePanel));
     calculate->setDefault(!screen.MustCalculateHipLoad);
@@ -288,6 +283,13 @@ void Form1::StartNew()
         partialCalculator->PutAway();
         Refresh();
         FocusOn("Proj");
+    }
+}
+
+void Form1::OpenExplorer()
+{
+    if (!TheWalk().Desktop().OpenFileExplorer()) {
+        User().Tell(Alert("There is no file explorer to open on this desktop."));
     }
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "forms/Bindings.h"
 #include "forms/EntryGroup.h"
 #include "forms/Form.h"
@@ -51,12 +49,12 @@ private:
     void Refresh();
     void ShowDiagram(SupportCondition support);
     void StartNew();
+    void OpenExplorer();
     void Calculate();
 
     Bindings bindings;
     NumericBoxContext numbers;
     GroupContext context;
-    std::optional<LoadSet> multiplied;  // the loads as the uniform calculator left them
 
     SupportGroup* supportGroup = nullptr;
     SpanGroup* spanGroup = nullptr;

@@ -36,7 +36,7 @@ QString NumberOf(std::size_t number)
 
 Form21::Form21(Walk& theWalk) : BesideForm(theWalk, "Form21")
 {
-    setWindowTitle(tr("Note Clipboard"));
+    setWindowTitle(QStringLiteral("Note Clipboard"));
     AddPage();
     AddCommands();
     AddHelpMenu(PageText);
@@ -97,7 +97,7 @@ void Form21::AddLine(QGridLayout& page, std::size_t index)
 {
     const QString number = NumberOf(index + 1);
     const std::string name = Text(QStringLiteral("Text%1").arg(number));
-    const std::string tip = Text(tr("Note line %1 of %2").arg(number, NumberOf(ReportNoteCount)));
+    const std::string tip = Text(QStringLiteral("Note line %1 of %2").arg(number, NumberOf(ReportNoteCount)));
     NoteLine& line = lines[index];
     line.Box = MakeTextBox({.Name = name, .Tip = tip}, static_cast<int>(ReportNoteLength));
     line.Box->setFrame(false);
@@ -143,7 +143,8 @@ void Form21::ShowLeft(std::size_t index)
     const NoteLine& line = lines[index];
     const QString left = NumberOf(ReportNoteLength - static_cast<std::size_t>(line.Box->text().size()));
     line.Left->setText(left);
-    line.Left->setAccessibleName(tr("%1 characters left in line %2").arg(left, NumberOf(index + 1)));
+    line.Left->setAccessibleName(
+        QStringLiteral("%1 characters left in line %2").arg(left, NumberOf(index + 1)));
 }
 
 /// The line in focus shows it by its rule, as its box has no frame.

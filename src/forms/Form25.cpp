@@ -112,7 +112,7 @@ void Enlarge(QWidget& widget, double times)
 
 Form25::Form25(Walk& theWalk) : BesideForm(theWalk, "Form25")
 {
-    setWindowTitle(tr("Calculator"));
+    setWindowTitle(QStringLiteral("Calculator"));
     setWindowFlag(Qt::WindowStaysOnTopHint);
     AddDisplay();
     AddKeys();
@@ -213,9 +213,10 @@ void Form25::ShowValue()
     const QString text = Text(ValueText());
     display->setText(Text(calculator.Display()));
     memory->setText(calculator.HasMemory() ? QStringLiteral("M") : QString());
-    memory->setAccessibleName(calculator.HasMemory() ? tr("The memory holds a value")
-                                                     : tr("The memory is empty"));
-    value->setText(text.isEmpty() ? tr("Nothing to insert") : tr("Value: %1").arg(text));
+    memory->setAccessibleName(calculator.HasMemory() ? QStringLiteral("The memory holds a value")
+                                                     : QStringLiteral("The memory is empty"));
+    value->setText(text.isEmpty() ? QStringLiteral("Nothing to insert")
+                                  : QStringLiteral("Value: %1").arg(text));
     insert->setEnabled(!text.isEmpty());
 }
 

@@ -29,7 +29,7 @@ constexpr int SpeciesDigits = 28;
 
 Form3::Form3(Walk& theWalk) : Form(theWalk, "Form3"), picks(QuickPickCells(TheSession().Numbers))
 {
-    setWindowTitle(tr(" Kordavan Selection Form 2"));
+    setWindowTitle(QStringLiteral(" Kordavan Selection Form 2"));
     BuildHeader();
     BuildPicks();
     BuildBoxes();

@@ -105,7 +105,7 @@ std::string LongestDeflectionAlert()
 
 Form5::Form5(Walk& theWalk) : Form(theWalk, "Form5")
 {
-    setWindowTitle(tr("Beam Test Report"));
+    setWindowTitle(QStringLiteral("Beam Test Report"));
     BuildHeader();
     BuildTable();
     BuildLines();
@@ -259,9 +259,9 @@ void Form5::BuildMenus()
                [this] { TheWalk().Go(Screen::Criteria); });
     AddToolsMenu();
     AddHelpMenu(Page);
-    QAction* const back = menuBar()->addAction(tr("&Back"));
+    QAction* const back = menuBar()->addAction(QStringLiteral("&Back"));
     back->setObjectName(QStringLiteral("backmnu"));
-    back->setStatusTip(tr("Back to the selection (Esc)"));
+    back->setStatusTip(QStringLiteral("Back to the selection (Esc)"));
     connect(back, &QAction::triggered, this, &Form5::GoBack);
 }
 
@@ -316,6 +316,7 @@ void Form5::OnNewBeam()
 {
     if (OfferNewBeamAfterReport(TheSession(), User()) == Outcome::Done) {
         TheWalk().Go(Screen::Criteria);
+        TheWalk().Front()->FocusOn("Proj");
     }
 }
 

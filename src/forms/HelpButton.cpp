@@ -11,8 +11,8 @@ HelpButton::HelpButton(std::string_view name, std::string_view topic,
     }
     setText(QStringLiteral("?"));
     setObjectName(Text(name));
-    setToolTip(tr("Help: %1 (Shift+F1)").arg(topicText));
-    setAccessibleName(tr("Help: %1").arg(topicText));
+    setToolTip(QStringLiteral("Help: %1 (Shift+F1)").arg(topicText));
+    setAccessibleName(QStringLiteral("Help: %1").arg(topicText));
     setFocusPolicy(Qt::NoFocus);
     setAutoRaise(false);
 }

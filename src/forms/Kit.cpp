@@ -1,6 +1,7 @@
 #include "forms/Kit.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QFontMetrics>
 #include <QFrame>
 #include <QKeySequence>
@@ -13,8 +14,27 @@
 #include <QToolButton>
 
 #include "core/Message.h"
+#include "forms/TextBox.h"
 
 namespace kordavan {
+
+namespace {
+
+class StrayWheelFilter : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const bool isStray = event->type() == QEvent::Wheel && !static_cast<QWidget*>(watched)->hasFocus();
+        if (isStray) {
+            event->ignore();
+        }
+        return isStray;
+    }
+};
+
+}  // namespace
 
 QString Text(std::string_view text)
 {
@@ -34,10 +54,32 @@ QString ArrayName(std::string_view array, std::size_t index)
 void Describe(QWidget& control, const ControlText& text)
 {
     control.setObjectName(Text(text.Name));
-    if (!text.Tip.empty()) {
-        control.setToolTip(Text(text.Tip));
-        control.setAccessibleName(Text(text.Tip));
+    SetTip(control, text.Tip);
+}
+
+void SetTip(QWidget& control, std::string_view tip)
+{
+    control.setToolTip(Text(tip));
+    const auto* const button = qobject_cast<QAbstractButton*>(&control);
+    const bool hasCaption = button != nullptr && button->text().size() > 1;
+    if (hasCaption) {
+        control.setAccessibleDescription(Text(tip));
+    } else {
+        control.setAccessibleName(Text(tip));
     }
+}
+
+void IgnoreStrayWheel(QWidget& list)
+{
+    list.setFocusPolicy(Qt::StrongFocus);
+    list.installEventFilter(new StrayWheelFilter(&list));
+}
+
+void KeepPlace(QWidget& control)
+{
+    QSizePolicy policy = control.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control.setSizePolicy(policy);
 }
 
 QLabel* MakeLabel(std::string_view caption)
@@ -101,7 +143,7 @@ QToolButton* MakeCycle(const ControlText& text, const QKeySequence& keys)
 
 QLineEdit* MakeTextBox(const ControlText& text, int mostCharacters)
 {
-    auto* const box = new QLineEdit;
+    auto* const box = new TextBox;
     Describe(*box, text);
     box->setMaxLength(mostCharacters);
     return box;
@@ -111,6 +153,7 @@ QLabel* MakePanel(std::string_view name)
 {
     QLabel* const panel = MakeNamedLabel(name);
     panel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    panel->setFocusPolicy(Qt::NoFocus);
     panel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     return panel;
 }

@@ -33,8 +33,18 @@ struct ControlText {
     std::string_view Tip{};
 };
 
-/// Names the control and tells its tip, which is its accessible name unless its caption is.
+/// Names the control and tells its tip.
 void Describe(QWidget& control, const ControlText& text);
+
+/// What a hovering mouse says of a control. To assistive tools it is the name of a control without a caption,
+/// and the description of one that has a caption.
+void SetTip(QWidget& control, std::string_view tip);
+
+/// The wheel turns a list only while it has the focus, not as it comes by when the form scrolls.
+void IgnoreStrayWheel(QWidget& list);
+
+/// The control keeps its place while it is hidden.
+void KeepPlace(QWidget& control);
 
 QLabel* MakeLabel(std::string_view caption);
 QLabel* MakeNamedLabel(std::string_view name, std::string_view caption = {});

@@ -20,6 +20,10 @@ QString BoxOf(const PictureLoad& load)
             return ArrayName("PT", load.Slot);
         case PictureLoadKind::Partial:
             return ArrayName("PAR", load.Slot);
+        case PictureLoadKind::Rising:
+            return QStringLiteral("IncTL");
+        case PictureLoadKind::Beside:
+            return QStringLiteral("IncUnifTL");
     }
     return {};
 }

@@ -22,61 +22,78 @@ void LoadTable::AddHeadings(std::initializer_list<std::string_view> headings)
     columnCount = column;
 }
 
-std::vector<NumericBox*> LoadTable::AddRow(std::size_t slot, std::initializer_list<RowBox> row)
+std::vector<NumericBox*> LoadTable::AddRow(char letter, std::size_t slot, std::initializer_list<RowBox> row,
+                                           SlotClearing clear)
 {
     std::vector<NumericBox*> boxes;
     int column = FirstBoxColumn;
     for (const RowBox& part : row) {
-        boxes.push_back(AddNumber(part.Array, slot, part.Tip, part.Digits, *part.Text));
-        Grid().addWidget(boxes.back(), LineOf(slot), column, Qt::AlignRight);
+        const std::string tip = std::string(1, letter) + ": " + std::string(part.Tip);
+        NumericBox* const box = AddNumber(part.Array, slot, tip, part.Digits, *part.Text);
+        MakeClearable(*box, slot, clear);
+        Grid().addWidget(box, LineOf(slot), column, Qt::AlignRight);
+        boxes.push_back(box);
         ++column;
     }
     return boxes;
 }
 
-void LoadTable::MakeRowClearable(const ControlText& letter, char caption, std::size_t slot,
-                                 const std::vector<NumericBox*>& boxes, SlotClearing clear)
+QToolButton* LoadTable::AddLetter(std::string_view name, char letter, std::size_t slot, SlotClearing clear)
 {
     auto* const button = new QToolButton;
-    Describe(*button, letter);
-    button->setText(QString(QLatin1Char(caption)));
+    const std::string tip = "Empty load " + std::string(1, letter) + " (Ctrl+Delete in its row)";
+    Describe(*button, {.Name = name, .Tip = tip});
+    button->setText(QString(QLatin1Char(letter)));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     Grid().addWidget(button, LineOf(slot), LetterColumn);
-    const auto empty = [this, clear, slot] {
-        Change([clear, slot](Session& session) { clear(session.Problem.Loads, slot); });
-    };
-    connect(button, &QToolButton::clicked, this, empty);
-    for (NumericBox* const box : boxes) {
-        connect(box, &NumericBox::ClearRowAsked, this, empty);
+    connect(button, &QToolButton::clicked, this, [this, slot, clear] { ClearRow(slot, clear); });
+    return button;
+}
+
+void LoadTable::MakeTableClearable(TableClearing clear)
+{
+    clearTable = clear;
+}
+
+void LoadTable::SetClearable(bool isClearable)
+{
+    canClear = isClearable;
+}
+
+void LoadTable::MakeClearable(NumericBox& box, std::size_t slot, SlotClearing clear)
+{
+    box.SetInTable();
+    connect(&box, &NumericBox::ClearRowAsked, this, [this, slot, clear] { ClearRow(slot, clear); });
+    connect(&box, &NumericBox::ClearTableAsked, this, &LoadTable::ClearTable);
+}
+
+void LoadTable::ClearRow(std::size_t slot, SlotClearing clear)
+{
+    if (canClear) {
+        Change([slot, clear](Session& session) { clear(session.Problem.Loads, slot); });
     }
 }
 
-void LoadTable::MakeTableClearable(const std::vector<NumericBox*>& boxes, TableClearing clear)
+void LoadTable::ClearTable()
 {
-    clearTable = clear;
-    for (NumericBox* const box : boxes) {
-        connect(box, &NumericBox::ClearTableAsked, this,
-                [this] { Change([this](Session& session) { clearTable(session.Problem.Loads); }); });
+    if (canClear && clearTable != nullptr) {
+        Change([this](Session& session) { clearTable(session.Problem.Loads); });
     }
 }
 
 QLabel* LoadTable::AddOverhangTag(std::size_t slot)
 {
     QLabel* const tag = MakeLabel("OH");
-    tag->setToolTip(tr("This load lies on the overhang; its distances are feet from R2"));
-    QSizePolicy policy = tag->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    tag->setSizePolicy(policy);
+    tag->setToolTip(QStringLiteral("This load lies on the overhang; its distances are feet from R2"));
+    KeepPlace(*tag);
     Grid().addWidget(tag, LineOf(slot), columnCount);
     return tag;
 }
 
 void LoadTable::mouseDoubleClickEvent(QMouseEvent* /*event*/)
 {
-    if (clearTable != nullptr) {
-        Change([this](Session& session) { clearTable(session.Problem.Loads); });
-    }
+    ClearTable();
 }
 
 }  // namespace kordavan

@@ -6,6 +6,9 @@
 
 #include "forms/EntryGroup.h"
 
+class QLabel;
+class QToolButton;
+
 namespace kordavan {
 
 /// A table of entries, a row to a load: headings, a letter that empties its row, boxes. A double click beside
@@ -32,15 +35,21 @@ protected:
 
     void AddHeadings(std::initializer_list<std::string_view> headings);
 
-    /// Boxes of one row, from the first heading on.
-    std::vector<NumericBox*> AddRow(std::size_t slot, std::initializer_list<RowBox> row);
+    /// Boxes of the load with this letter, from the first heading on; the keys in them that empty the row.
+    std::vector<NumericBox*> AddRow(char letter, std::size_t slot, std::initializer_list<RowBox> row,
+                                    SlotClearing clear);
 
-    /// A flat letter before the row, and the keys in its boxes, that empty it.
-    void MakeRowClearable(const ControlText& letter, char caption, std::size_t slot,
-                          const std::vector<NumericBox*>& boxes, SlotClearing clear);
+    /// A flat button with the letter before the row, which empties it.
+    QToolButton* AddLetter(std::string_view name, char letter, std::size_t slot, SlotClearing clear);
 
-    /// The keys in these boxes, and a double click, that empty the table.
-    void MakeTableClearable(const std::vector<NumericBox*>& boxes, TableClearing clear);
+    /// The keys in the boxes of all rows, and a double click, that empty the table.
+    void MakeTableClearable(TableClearing clear);
+
+    /// The keys in a box that empty its row and its table.
+    void MakeClearable(NumericBox& box, std::size_t slot, SlotClearing clear);
+
+    /// A table that only shows cannot be emptied.
+    void SetClearable(bool isClearable);
 
     /// A tag behind a row that lies on the overhang.
     QLabel* AddOverhangTag(std::size_t slot);
@@ -48,7 +57,11 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    void ClearRow(std::size_t slot, SlotClearing clear);
+    void ClearTable();
+
     TableClearing clearTable = nullptr;
+    bool canClear = true;
     int columnCount = 0;
 };
 

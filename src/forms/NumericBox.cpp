@@ -2,11 +2,8 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
-#include <QMetaMethod>
 #include <QStyle>
 #include <QStyleOptionFrame>
-
-#include "core/NumberText.h"
 
 namespace kordavan {
 
@@ -35,12 +32,9 @@ void NumericBox::InsertFromCalculator()
         return;
     }
     const std::string value = shared.CalculatorText();
-    const std::string_view refusal =
-        entryRule == nullptr ? std::string_view{} : InsertRefusal(*entryRule, value);
+    const std::string_view refusal = InsertRefusal(entryRule, value);
     if (!refusal.empty()) {
-        Message message = Refusal(refusal);
-        message.Icon = MessageIcon::Warning;
-        shared.User.Tell(message);
+        shared.User.Tell(Marked(Refusal(refusal), MessageIcon::Warning));
         return;
     }
     selectAll();
@@ -50,23 +44,24 @@ void NumericBox::InsertFromCalculator()
 
 void NumericBox::focusInEvent(QFocusEvent* event)
 {
-    QLineEdit::focusInEvent(event);
-    selectAll();
-    selectsOnRelease = event->reason() == Qt::MouseFocusReason;
+    TextBox::focusInEvent(event);
+    stoodLast = text();
 }
 
-/// The click that brought the focus has put the caret somewhere; the whole text is meant.
-void NumericBox::mouseReleaseEvent(QMouseEvent* event)
+/// A number longer than its box shows how it begins.
+void NumericBox::focusOutEvent(QFocusEvent* event)
 {
-    QLineEdit::mouseReleaseEvent(event);
-    if (selectsOnRelease && !hasSelectedText()) {
-        selectAll();
-    }
-    selectsOnRelease = false;
+    TextBox::focusOutEvent(event);
+    setCursorPosition(0);
 }
 
 void NumericBox::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Undo) && !isUndoAvailable() && text() != stoodLast) {
+        setText(stoodLast);
+        Judge();
+        return;
+    }
     if (event->key() == Qt::Key_Insert && event->modifiers() == Qt::NoModifier) {
         InsertFromCalculator();
         return;
@@ -75,7 +70,7 @@ void NumericBox::keyPressEvent(QKeyEvent* event)
         TellNoCommas();
         return;
     }
-    if (event->key() == Qt::Key_Delete && event->modifiers().testFlag(Qt::ControlModifier) && IsInTable()) {
+    if (event->key() == Qt::Key_Delete && event->modifiers().testFlag(Qt::ControlModifier) && isInTable) {
         if (event->modifiers().testFlag(Qt::ShiftModifier)) {
             Q_EMIT ClearTableAsked();
         } else {
@@ -83,19 +78,12 @@ void NumericBox::keyPressEvent(QKeyEvent* event)
         }
         return;
     }
-    QLineEdit::keyPressEvent(event);
-}
-
-bool NumericBox::IsInTable() const
-{
-    return isSignalConnected(QMetaMethod::fromSignal(&NumericBox::ClearRowAsked));
+    TextBox::keyPressEvent(event);
 }
 
 void NumericBox::TellNoCommas()
 {
-    Message message = Alert(EntryTexts::NoCommas);
-    message.Icon = MessageIcon::Warning;
-    shared.User.Tell(message);
+    shared.User.Tell(Marked(Alert(EntryTexts::NoCommas), MessageIcon::Warning));
 }
 
 void NumericBox::Judge()
@@ -107,12 +95,11 @@ void NumericBox::Judge()
     const EntryVerdict verdict = entryRule == nullptr
                                      ? EntryVerdict::Stands
                                      : JudgeEntry(*entryRule, Text(text()), EntryState::BeingTyped);
-    if (verdict != EntryVerdict::Stands) {
-        clear();
-    }
     const bool hasComma = entryRule == nullptr && text().contains(QLatin1Char(','));
-    if (hasComma) {
-        clear();
+    if (verdict != EntryVerdict::Stands || hasComma) {
+        setText({});  // clear() would leave the bad text to be undone to
+    } else {
+        stoodLast = text();
     }
     Q_EMIT Changed();
     if (hasComma) {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QLineEdit>
 #include <functional>
 
 #include "core/EntryRules.h"
 #include "core/Message.h"
 #include "forms/Kit.h"
+#include "forms/TextBox.h"
 
 namespace kordavan {
 
@@ -17,7 +17,7 @@ struct NumericBoxContext {
 
 /// A right-aligned box for one number, under its entry rule: it selects its text on entry, judges each
 /// change, takes the calculator's value by Insert and no commas.
-class NumericBox : public QLineEdit {
+class NumericBox : public TextBox {
     Q_OBJECT
 
 public:
@@ -27,6 +27,9 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
+
+    /// Lets the clearing keys speak for the row and the table that the box is in.
+    void SetInTable() { isInTable = true; }
 
     /// Puts the calculator's value into the box, as if typed.
     void InsertFromCalculator();
@@ -41,18 +44,18 @@ Q_SIGNALS:
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    bool IsInTable() const;
     void TellNoCommas();
     void Judge();
 
     int digitCount;
     const EntryRule* entryRule;
     const NumericBoxContext& shared;
-    bool selectsOnRelease = false;
+    QString stoodLast;  // the text last let stand, for undo past a refusal
+    bool isInTable = false;
     bool isJudging = false;
 };
 

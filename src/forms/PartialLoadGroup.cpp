@@ -20,12 +20,6 @@ constexpr std::string_view EndTip = "End of the load, feet from R1";
 constexpr std::string_view OverhangStartTip = "Start of the load, feet from R2, on the overhang";
 constexpr std::string_view OverhangEndTip = "End of the load, feet from R2, on the overhang";
 
-void SetTip(NumericBox& box, std::string_view tip)
-{
-    box.setToolTip(Text(tip));
-    box.setAccessibleName(Text(tip));
-}
-
 }  // namespace
 
 PartialLoadGroup::PartialLoadGroup(const GroupContext& context)
@@ -53,8 +47,9 @@ void PartialLoadGroup::ShowScreen(const CriteriaScreen& screen)
             PaintOverhang(*box, isOver ? OverhangPaint::Total : OverhangPaint::None);
         }
         PaintOverhang(*rows[k].Boxes[LiveBox], isOver ? OverhangPaint::Live : OverhangPaint::None);
-        SetTip(*rows[k].Boxes[BeginBox], isOver ? OverhangStartTip : StartTip);
-        SetTip(*rows[k].Boxes[EndBox], isOver ? OverhangEndTip : EndTip);
+        const std::string letter = std::string(1, PartialLetter(k)) + ": ";
+        SetTip(*rows[k].Boxes[BeginBox], letter + std::string(isOver ? OverhangStartTip : StartTip));
+        SetTip(*rows[k].Boxes[EndBox], letter + std::string(isOver ? OverhangEndTip : EndTip));
         rows[k].Tag->setVisible(isOver);
     }
 }
@@ -63,23 +58,22 @@ void PartialLoadGroup::AddRows()
 {
     LoadSet& loads = Shared().Beam.Problem.Loads;
     AddHeadings({"LL plf", "LL+DL plf", "start ft", "end ft"});
-    std::vector<NumericBox*> all;
     for (std::size_t k = 0; k < PartialSlotCount; ++k) {
         const std::vector<NumericBox*> boxes =
-            AddRow(k, {{"LPAR", "Live partial uniform load, plf", LoadDigits, &loads.LPAR[k]},
-                       {"PAR", "Total partial uniform load, live and dead, plf", LoadDigits, &loads.PAR[k]},
-                       {"BEGP", StartTip, DistanceDigits, &loads.BEGP[k]},
-                       {"ENDP", EndTip, DistanceDigits, &loads.ENDP[k]}});
-        MakeRowClearable({.Name = BoxName("Labl21", k), .Tip = "Empty this partial load (Ctrl+Delete)"},
-                         PartialLetter(k), k, boxes, ClearPartialRow);
+            AddRow(PartialLetter(k), k,
+                   {{"LPAR", "Live partial uniform load, plf", LoadDigits, &loads.LPAR[k]},
+                    {"PAR", "Total partial uniform load, live and dead, plf", LoadDigits, &loads.PAR[k]},
+                    {"BEGP", StartTip, DistanceDigits, &loads.BEGP[k]},
+                    {"ENDP", EndTip, DistanceDigits, &loads.ENDP[k]}},
+                   ClearPartialRow);
+        AddLetter(BoxName("Labl21", k), PartialLetter(k), k, ClearPartialRow);
         rows[k] = {.Boxes = {boxes[LiveBox], boxes[TotalBox], boxes[BeginBox], boxes[EndBox]},
                    .Tag = nullptr};
         if (k >= FirstOverhangPartial) {
             rows[k].Tag = AddOverhangTag(k);
         }
-        all.insert(all.end(), boxes.begin(), boxes.end());
     }
-    MakeTableClearable(all, ClearPartialLoads);
+    MakeTableClearable(ClearPartialLoads);
 }
 
 PartialCalculator::PartialCalculator(const GroupContext& context)
@@ -89,14 +83,17 @@ PartialCalculator::PartialCalculator(const GroupContext& context)
     AddHeadings({"LL psf", "LL+DL psf", "ft"});
     for (std::size_t k = 0; k < PartialSlotCount; ++k) {
         const std::vector<NumericBox*> boxes =
-            AddRow(k, {{"LPSF", "Live area load, psf", LoadDigits, &loads.LPSF[k]},
-                       {"PSF", "Total area load, live and dead, psf", LoadDigits, &loads.PSF[k]},
-                       {"TribPSF", "Tributary length, feet", DistanceDigits, &loads.TribPSF[k]}});
+            AddRow(PartialLetter(k), k,
+                   {{"LPSF", "Live area load, psf", LoadDigits, &loads.LPSF[k]},
+                    {"PSF", "Total area load, live and dead, psf", LoadDigits, &loads.PSF[k]},
+                    {"TribPSF", "Tributary length, feet", DistanceDigits, &loads.TribPSF[k]}},
+                   ClearPartialCalculatorRow);
         if (k == 0) {
             first = boxes.front();
         }
     }
-    QPushButton* const insert = MakeButton(
+    MakeTableClearable(ClearPartialCalculatorRows);
+    insert = MakeButton(
         {.Name = "Command3D21", .Tip = "Psf times lengths into the partial loads, and close (Alt+9)"},
         "Multiply and Insert");
     insert->setShortcut(QKeySequence(Qt::ALT | Qt::Key_9));
@@ -121,9 +118,7 @@ PartialCalculator::PartialCalculator(const GroupContext& context)
     line->addWidget(AddHelp("Command3D24", {"LPSF", "PSF", "TribPSF", "Command3D21", "Command3D22"}));
     Grid().addLayout(line, LineOf(PartialSlotCount), 0, 1, Grid().columnCount());
     Grid().setRowStretch(LineOf(PartialSlotCount) + 1, 1);
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    KeepPlace(*this);
     hide();
 }
 

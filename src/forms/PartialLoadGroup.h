@@ -45,12 +45,15 @@ public:
 
     void PutAway();
 
+    QPushButton& InsertCommand() { return *insert; }
+
 Q_SIGNALS:
     void Opened();
     void Closed();
 
 private:
     NumericBox* first = nullptr;
+    QPushButton* insert = nullptr;
 };
 
 }  // namespace kordavan

@@ -40,8 +40,8 @@ void PointLoadGroup::ShowScreen(const CriteriaScreen& screen)
         PaintOverhang(*row.Live, isOver ? OverhangPaint::Live : OverhangPaint::None);
         PaintOverhang(*row.Total, isOver ? OverhangPaint::Total : OverhangPaint::None);
         PaintOverhang(*row.Distance, isOver ? OverhangPaint::Total : OverhangPaint::None);
-        row.Distance->setToolTip(Text(isOver ? FromR2 : FromR1));
-        row.Distance->setAccessibleName(row.Distance->toolTip());
+        const std::string letter(1, PointLetter(k));
+        SetTip(*row.Distance, letter + ": " + std::string(isOver ? FromR2 : FromR1));
         row.Tag->setVisible(isOver);
     }
     ShowUnbalance(*unbalanceSpan, screen.UBSpan, screen.HasOverhang);
@@ -52,21 +52,20 @@ void PointLoadGroup::AddRows()
 {
     LoadSet& loads = Shared().Beam.Problem.Loads;
     AddHeadings({"LL lbs", "LL+DL lbs", "at ft"});
-    std::vector<NumericBox*> all;
     for (std::size_t k = 0; k < PointSlotCount; ++k) {
         const std::vector<NumericBox*> boxes =
-            AddRow(k, {{"LPT", "Live point load, lb", LoadDigits, &loads.LPT[k]},
-                       {"PT", "Total point load, live and dead, lb", LoadDigits, &loads.PT[k]},
-                       {"DIS", FromR1, DistanceDigits, &loads.DIS[k]}});
-        MakeRowClearable({.Name = BoxName("Labl20", k), .Tip = "Empty this point load (Ctrl+Delete)"},
-                         PointLetter(k), k, boxes, ClearPointRow);
+            AddRow(PointLetter(k), k,
+                   {{"LPT", "Live point load, lb", LoadDigits, &loads.LPT[k]},
+                    {"PT", "Total point load, live and dead, lb", LoadDigits, &loads.PT[k]},
+                    {"DIS", FromR1, DistanceDigits, &loads.DIS[k]}},
+                   ClearPointRow);
+        AddLetter(BoxName("Labl20", k), PointLetter(k), k, ClearPointRow);
         rows[k] = {.Live = boxes[0], .Total = boxes[1], .Distance = boxes[2], .Tag = nullptr};
         if (k >= FirstOverhangPoint) {
             rows[k].Tag = AddOverhangTag(k);
         }
-        all.insert(all.end(), boxes.begin(), boxes.end());
     }
-    MakeTableClearable(all, ClearPointLoads);
+    MakeTableClearable(ClearPointLoads);
 }
 
 void PointLoadGroup::AddUnbalance()
@@ -82,9 +81,7 @@ void PointLoadGroup::AddUnbalance()
     auto* const line = new QHBoxLayout;
     for (QPushButton* const button : {unbalanceSpan, unbalanceOverhang}) {
         button->setCheckable(true);
-        QSizePolicy policy = button->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        button->setSizePolicy(policy);
+        KeepPlace(*button);
         line->addWidget(button);
     }
     Grid().addLayout(line, LineOf(PointSlotCount), 0, 1, Grid().columnCount());

@@ -25,14 +25,15 @@ int QtDesktop::MinutesSinceStart()
     return static_cast<int>(sinceStart.elapsed() / millisecondsPerMinute);
 }
 
-void QtDesktop::OpenFileExplorer()
+bool QtDesktop::OpenFileExplorer()
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::currentPath()));
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QDir::currentPath()));
 }
 
+/// Not quit(), which would close every form, and so ask again, first.
 void QtDesktop::EndProgram()
 {
-    QCoreApplication::quit();
+    QCoreApplication::exit();
 }
 
 }  // namespace kordavan

@@ -13,7 +13,7 @@ public:
 
     CalendarDay Today() override;
     int MinutesSinceStart() override;
-    void OpenFileExplorer() override;
+    bool OpenFileExplorer() override;
     void EndProgram() override;
 
 private:

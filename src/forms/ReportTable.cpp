@@ -68,13 +68,6 @@ Sign SignOf(std::string_view status)
     return status == StatusFail ? Sign::Fails : Sign::Passes;
 }
 
-void KeepPlace(QWidget& widget)
-{
-    QSizePolicy policy = widget.sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget.setSizePolicy(policy);
-}
-
 }  // namespace
 
 ReportTable::ReportTable(HelpButton* help) : grid(new QGridLayout(this))
@@ -112,11 +105,11 @@ void ReportTable::Show(const TestReport& report)
 void ReportTable::NameFigures(const Row& row)
 {
     const QString caption = row.Caption->text();
-    row.Critical->setAccessibleDescription(tr("%1, critical").arg(caption));
-    row.Actual->setAccessibleDescription(tr("%1, actual").arg(caption));
-    row.Status->setAccessibleDescription(tr("%1, status").arg(caption));
-    row.Percent->setAccessibleDescription(tr("%1, ratio").arg(caption));
-    row.Bar->setAccessibleName(tr("%1, ratio").arg(caption));
+    row.Critical->setAccessibleDescription(QStringLiteral("%1, critical").arg(caption));
+    row.Actual->setAccessibleDescription(QStringLiteral("%1, actual").arg(caption));
+    row.Status->setAccessibleDescription(QStringLiteral("%1, status").arg(caption));
+    row.Percent->setAccessibleDescription(QStringLiteral("%1, ratio").arg(caption));
+    row.Bar->setAccessibleName(QStringLiteral("%1, ratio").arg(caption));
     row.Bar->setAccessibleDescription(row.Percent->text());
 }
 

@@ -16,8 +16,7 @@ enum Column { CaptionColumn, BoxColumn, UnitColumn, CycleColumn, HelpColumn };
 
 }  // namespace
 
-SpanGroup::SpanGroup(const GroupContext& context)
-    : EntryGroup(context, "SpanGroup", "Span and limits"), limitsInHand(FirstDeflectionLimits)
+SpanGroup::SpanGroup(const GroupContext& context) : EntryGroup(context, "SpanGroup", "Span and limits")
 {
     BeamProblem& problem = context.Beam.Problem;
     AddSpan(problem);
@@ -30,6 +29,7 @@ SpanGroup::SpanGroup(const GroupContext& context)
 void SpanGroup::ShowScreen(const CriteriaScreen& screen)
 {
     unbracedLabel->setText(Text(screen.UBLlabel));
+    unbracedUnit->setText(Text(screen.UnbracedUnit));
     unbraced->setEnabled(screen.HasUnbracedLength);
     unbracedOverhang->setEnabled(screen.HasOverhang);
     const bool isSeen = screen.HasOverhang || !screen.HasUnbracedLength;
@@ -57,6 +57,8 @@ void SpanGroup::AddUnbraced(BeamProblem& problem)
     unbracedLabel->setObjectName(QStringLiteral("UBLlabel"));
     AddLine(UnbracedLine, unbracedLabel, unbraced, AddHelp("UBL3DHelp", {"UBLtext", "CantUBLtext"}));
 
+    unbracedUnit = qobject_cast<QLabel*>(Grid().itemAtPosition(UnbracedLine, UnitColumn)->widget());
+
     unbracedOverhang = AddNumber({.Name = "CantUBLtext", .Tip = "Unbraced length of the overhang in feet"},
                                  LoadDigits, problem.CantUBLtext);
     overhangLabel = MakeCaption("at the overhang", *unbracedOverhang);
@@ -64,9 +66,7 @@ void SpanGroup::AddUnbraced(BeamProblem& problem)
     overhangUnit = qobject_cast<QLabel*>(Grid().itemAtPosition(OverhangLine, UnitColumn)->widget());
     for (QWidget* const part :
          {static_cast<QWidget*>(overhangLabel), static_cast<QWidget*>(unbracedOverhang)}) {
-        QSizePolicy policy = part->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        part->setSizePolicy(policy);
+        KeepPlace(*part);
     }
 }
 
@@ -101,14 +101,7 @@ void SpanGroup::AddDeflection(BeamProblem& problem)
     QToolButton* const cycle =
         MakeCycle({.Name = "Dadj", .Tip = "Next of the common pairs of limits (Alt+2)"},
                   QKeySequence(Qt::ALT | Qt::Key_2));
-    connect(cycle, &QToolButton::clicked, this, [this] {
-        limitsInHand = (limitsInHand + 1) % DeflectionLimitCycle.size();
-        const DeflectionLimits& limits = DeflectionLimitCycle[limitsInHand];
-        Change([&limits](Session& session) {
-            session.Problem.LMaxDefl = limits.LMaxDefl;
-            session.Problem.MaxDefl = limits.MaxDefl;
-        });
-    });
+    connect(cycle, &QToolButton::clicked, this, [this] { Change(StepDeflectionLimits); });
     Grid().addWidget(MakeCaption("Ma&x Allowable Deflection", *live), LimitsHeadLine, CaptionColumn, 1,
                      HelpColumn);
     auto* const line = new QHBoxLayout;
@@ -127,7 +120,7 @@ void SpanGroup::AddLine(int line, QLabel* caption, QWidget* box, HelpButton* hel
     Grid().addWidget(caption, line, CaptionColumn);
     Grid().addWidget(box, line, BoxColumn);
     if (line != DurationLine) {
-        Grid().addWidget(MakeLabel("ft"), line, UnitColumn);
+        Grid().addWidget(MakeLabel("ft"), line, UnitColumn, 1, HelpColumn - UnitColumn);
     }
     if (help != nullptr) {
         Grid().addWidget(help, line, HelpColumn);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstddef>
-
 #include "design/CriteriaScreen.h"
 #include "forms/EntryGroup.h"
 
@@ -29,8 +27,8 @@ private:
     NumericBox* unbracedOverhang = nullptr;
     QLabel* unbracedLabel = nullptr;
     QLabel* overhangLabel = nullptr;
+    QLabel* unbracedUnit = nullptr;
     QLabel* overhangUnit = nullptr;
-    std::size_t limitsInHand;
 };
 
 }  // namespace kordavan

@@ -32,6 +32,8 @@ void UniformLoadGroup::ShowScreen(const CriteriaScreen& screen)
         box->setReadOnly(isEquivalent);
         box->setFocusPolicy(isEquivalent ? Qt::NoFocus : Qt::StrongFocus);
     }
+    multiply->setChecked(screen.IsMultiplied);
+    SetClearable(!isEquivalent);
     SetCaption(*step, screen.PLFspin);
     step->setEnabled(!isEquivalent);
     for (QWidget* const part : calculator) {
@@ -39,23 +41,21 @@ void UniformLoadGroup::ShowScreen(const CriteriaScreen& screen)
     }
 }
 
-void UniformLoadGroup::ShowMultiplied(bool isMultiplied)
-{
-    multiply->setChecked(isMultiplied);
-}
-
 void UniformLoadGroup::AddLoad(const std::vector<LoadPair>& pairs)
 {
     LoadSet& loads = Shared().Beam.Problem.Loads;
     AddHeadings({"LL plf", "LL+DL plf"});
-    live = AddNumber({.Name = "LUNIF", .Tip = "Uniform live load, plf"}, LoadDigits, loads.LUNIF);
-    total =
-        AddNumber({.Name = "UNIF", .Tip = "Uniform total load, live and dead, plf"}, LoadDigits, loads.UNIF);
+    const auto clear = [](LoadSet& set, std::size_t /*slot*/) { ClearUniformLoad(set); };
+    live = AddNumber({.Name = "LUNIF", .Tip = "A: Uniform live load, plf"}, LoadDigits, loads.LUNIF);
+    total = AddNumber({.Name = "UNIF", .Tip = "A: Uniform total load, live and dead, plf"}, LoadDigits,
+                      loads.UNIF);
+    for (NumericBox* const box : {live, total}) {
+        MakeClearable(*box, 0, clear);
+    }
     Grid().addWidget(live, LoadLine, LiveColumn);
     Grid().addWidget(total, LoadLine, TotalColumn);
-    MakeRowClearable({.Name = "LetterA", .Tip = "Empty the uniform load (Ctrl+Delete)"}, 'A', 0,
-                     {live, total}, [](LoadSet& set, std::size_t /*slot*/) { ClearUniformLoad(set); });
-    MakeTableClearable({live, total}, ClearUniformLoad);
+    AddLetter("LetterA", 'A', 0, clear);
+    MakeTableClearable(ClearUniformLoad);
     step = AddStep({.Name = "PLFspin", .Tip = "Next of your common uniform loads (Alt+3)"}, "PLF", pairs,
                    &LoadSet::LUNIF, &LoadSet::UNIF);
     step->setShortcut(QKeySequence(Qt::ALT | Qt::Key_3));
@@ -84,14 +84,7 @@ void UniformLoadGroup::AddCalculator(const std::vector<LoadPair>& pairs)
                           "Multiply and Insert");
     multiply->setShortcut(QKeySequence(Qt::ALT | Qt::Key_5));
     multiply->setCheckable(true);
-    connect(multiply, &QPushButton::clicked, this, [this] {
-        const auto insert = [](Session& session, UserPort& user) {
-            return MultiplyTributary(session.Problem, user);
-        };
-        if (Edit(insert) == Outcome::Done) {
-            Q_EMIT Multiplied();
-        }
-    });
+    connect(multiply, &QPushButton::clicked, this, [this] { Edit(MultiplyTributary); });
 
     const auto add = [this](QWidget* part, int line, int column, int columns = 1) {
         Grid().addWidget(part, line, column, 1, columns);

@@ -20,13 +20,6 @@ public:
 
     void ShowScreen(const CriteriaScreen& screen);
 
-    /// The look of the calculator's button after its product has been inserted.
-    void ShowMultiplied(bool isMultiplied);
-
-Q_SIGNALS:
-    /// The calculator has written the uniform load.
-    void Multiplied();
-
 private:
     void AddLoad(const std::vector<LoadPair>& pairs);
     void AddCalculator(const std::vector<LoadPair>& pairs);

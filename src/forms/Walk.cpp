@@ -112,7 +112,8 @@ std::string Walk::CalculatorText()
 
 void Walk::InsertIntoLastBox()
 {
-    if (auto* const box = qobject_cast<NumericBox*>(lastBox.data())) {
+    auto* const box = qobject_cast<NumericBox*>(lastBox.data());
+    if (box != nullptr && box->isVisible() && box->isEnabled() && !box->isReadOnly()) {
         box->window()->activateWindow();
         box->setFocus();
         box->InsertFromCalculator();

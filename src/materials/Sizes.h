@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
+
+#include "core/SpeciesGroup.h"
 
 namespace kordavan {
 
@@ -41,6 +44,23 @@ struct Depth {
 
 /// The breadths of a family; those of a species group hold the glulams of all woods.
 std::span<const Breadth> BreadthsOf(SizeFamily family);
+
+/// The glulam breadths of a species group, from small to large.
+inline constexpr std::array<std::string_view, 5> GlulamLadder{"3-1/8x", "5-1/8x", "6-3/4x", "8-3/4x",
+                                                              "10-3/4x"};
+inline constexpr std::array<std::string_view, 5> SouthernPineGlulamLadder{"3-1/8x", "5-1/8x", "6-3/4x",
+                                                                          "8-1/2x", "10-1/2x"};
+
+/// The family of sizes that the members of a species group are chosen from.
+constexpr SizeFamily FamilyOf(SpeciesGroup group)
+{
+    return group == SpeciesGroup::SouthernPine ? SizeFamily::SouthernPineListed : SizeFamily::Listed;
+}
+
+constexpr const std::array<std::string_view, 5>& GlulamLadderOf(SpeciesGroup group)
+{
+    return group == SpeciesGroup::SouthernPine ? SouthernPineGlulamLadder : GlulamLadder;
+}
 
 /// The breadth written exactly so, or none.
 std::optional<Breadth> FindBreadth(SizeFamily family, std::string_view text);

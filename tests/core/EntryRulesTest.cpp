@@ -76,9 +76,11 @@ TEST(EntryRules, RefuseToInsertALoadOfAMillion)
 {
     const EntryRule& load = *FindEntryRule("PT");
     const EntryRule& distance = *FindEntryRule("DIS");
-    EXPECT_EQ(InsertRefusal(load, "999998.5"), "");
-    EXPECT_EQ(InsertRefusal(load, "999999"), "Number is too large to insert");
-    EXPECT_EQ(InsertRefusal(distance, "1000000"), "");
+    EXPECT_EQ(InsertRefusal(&load, "999998.5"), "");
+    EXPECT_EQ(InsertRefusal(&load, "999999"), "Number is too large to insert");
+    EXPECT_EQ(InsertRefusal(&distance, "1000000"), "");
+    EXPECT_EQ(InsertRefusal(nullptr, "1000000"), "");
+    EXPECT_EQ(InsertRefusal(nullptr, ""), "The calculator shows no number to insert.");
 }
 
 TEST(EntryRules, WarnOfADurationOnlyOnceItCannotBecomeOne)

@@ -17,29 +17,31 @@ using testing::IsEmpty;
 
 TEST(MultiplyTributary, WritesPsfTimesLength)
 {
-    BeamProblem problem;
+    Session session;
+    BeamProblem& problem = session.Problem;
     problem.Loads.Tribute = "6.5";
     problem.Loads.Text1 = "40";
     problem.Loads.Text2 = "52";
     ScriptedUser user;
-    EXPECT_EQ(MultiplyTributary(problem, user), Outcome::Done);
+    EXPECT_EQ(MultiplyTributary(session, user), Outcome::Done);
     EXPECT_EQ(problem.Loads.LUNIF, "260");
     EXPECT_EQ(problem.Loads.UNIF, "338");
 }
 
 TEST(MultiplyTributary, RefusesInItsOrder)
 {
-    BeamProblem problem;
+    Session session;
+    BeamProblem& problem = session.Problem;
     problem.Loads.Text1 = "60";
     ScriptedUser user;
-    EXPECT_EQ(MultiplyTributary(problem, user), Outcome::Refused);
+    EXPECT_EQ(MultiplyTributary(session, user), Outcome::Refused);
     problem.Loads.Tribute = "6";
-    EXPECT_EQ(MultiplyTributary(problem, user), Outcome::Refused);
+    EXPECT_EQ(MultiplyTributary(session, user), Outcome::Refused);
     problem.Loads.Text2 = "50";
-    EXPECT_EQ(MultiplyTributary(problem, user), Outcome::Refused);
+    EXPECT_EQ(MultiplyTributary(session, user), Outcome::Refused);
     problem.Loads.Text2 = "1e308";
     problem.Loads.Tribute = "1e308";
-    EXPECT_EQ(MultiplyTributary(problem, user), Outcome::Refused);
+    EXPECT_EQ(MultiplyTributary(session, user), Outcome::Refused);
     EXPECT_THAT(user.Told,
                 ElementsAre(RefusalOf(" Please enter a tributary length in feet.", "Tribute"),
                             RefusalOf(" Please enter a total load (LL+DL) in PSF.", "Text2"),

@@ -230,7 +230,7 @@ INSTANTIATE_TEST_SUITE_P(
                  false,
                  {"2x", "HF #2", "", PickState::PastLadder},
                  "2x HF #2",
-                 "Empty: no depth of this breadth is deep enough.",
+                 "Empty: the estimated depth is past 17.5 in. A size can be typed below and tested.",
                  false},
         FaceCase{"none passes",
                  true,

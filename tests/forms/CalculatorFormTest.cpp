@@ -49,6 +49,22 @@ TEST_F(CalculatorFormTest, InsertGoesIntoTheBoxLastInFocus)
     EXPECT_EQ(session.Problem.Span, "13.5");
 }
 
+TEST_F(CalculatorFormTest, InsertLeavesTheBoxesOfAHiddenFormAlone)
+{
+    session.Problem.Span = "14";
+    session.Problem.Loads.UNIF = "300";
+    Front().Activate();
+    Box("UNIF").setFocus();
+    Settle();
+    Click("CmdOK");
+    machine.activateWindow();
+    Settle();
+    TypeKeys(QStringLiteral("77"));
+    FindIn<QAbstractButton>(machine, "CmdInsert").click();
+    EXPECT_EQ(session.Problem.Loads.UNIF, "300");
+    EXPECT_EQ(user.Told.back().Text, "Please click the box that is to take the number first.");
+}
+
 TEST_F(CalculatorFormTest, AnErrorCannotBeInserted)
 {
     TypeKeys(QStringLiteral("1/0="));

@@ -107,8 +107,60 @@ TEST_F(EntryBoxTest, UndoesWhatWasTyped)
 {
     Type("Span", "14");
     QTest::keyClick(&Box("Span"), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_NE(BoxText("Span"), "14");
-    EXPECT_EQ(session.Problem.Span, BoxText("Span"));
+    EXPECT_EQ(BoxText("Span"), "");
+    EXPECT_EQ(session.Problem.Span, "");
+}
+
+TEST_F(EntryBoxTest, UndoBringsBackWhatStoodBeforeARefusal)
+{
+    Type("Span", "123");
+    QTest::keyClicks(&Box("Span"), QStringLiteral("x"));
+    EXPECT_EQ(BoxText("Span"), "");
+    QTest::keyClick(&Box("Span"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(BoxText("Span"), "123");
+    EXPECT_EQ(session.Problem.Span, "123");
+    EXPECT_EQ(user.Told.size(), 1U);
+}
+
+TEST_F(EntryBoxTest, SelectsItsWholeTextByAClickToo)
+{
+    Type("Proj", "Hilltop");
+    Box("Span").setFocus();
+    QTest::mouseClick(&Box("Proj"), Qt::LeftButton, {}, QPoint(20, 5));
+    EXPECT_EQ(Text(Box("Proj").selectedText()), "Hilltop");
+}
+
+TEST_F(EntryBoxTest, ShowsTheBeginningOfALongNumber)
+{
+    Type("Text2", "0");
+    session.Problem.Loads.UNIF = "145.176803394625";
+    Front().Activate();
+    EXPECT_EQ(Box("UNIF").cursorPosition(), 0);
+    Type("UNIF", "145.176803394625");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Box("UNIF").cursorPosition(), 0);
+}
+
+TEST_F(EntryBoxTest, InsertOfNothingKeepsTheBox)
+{
+    walk.ShowBeside(Screen::Calculator);
+    QTest::keyClicks(walk.FormOf(Screen::Calculator).focusWidget(), QStringLiteral("1/0="));
+    Type("PT[0]", "55");
+    Key(Qt::Key_Insert);
+    EXPECT_EQ(BoxText("PT[0]"), "55");
+    EXPECT_THAT(user.Told, ElementsAre(RefusalOf("The calculator shows no number to insert.")));
+}
+
+TEST_F(EntryBoxTest, FocusIsScrolledIntoView)
+{
+    Front().resize(320, 240);
+    Settle();
+    Box("ENDP[4]").setFocus();
+    Settle();
+    EXPECT_FALSE(Box("ENDP[4]").visibleRegion().isEmpty());
+    Box("Proj").setFocus();
+    Settle();
+    EXPECT_FALSE(Box("Proj").visibleRegion().isEmpty());
 }
 
 TEST_F(EntryBoxTest, InsertTakesTheCalculatorsValue)

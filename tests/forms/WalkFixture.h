@@ -24,7 +24,7 @@ class ScriptedDesktop : public DesktopPort {
 public:
     CalendarDay Today() override { return {.Year = 2026, .Month = 3, .Day = 7}; }
     int MinutesSinceStart() override { return 12; }
-    void OpenFileExplorer() override { ++ExplorersOpened; }
+    bool OpenFileExplorer() override { return ++ExplorersOpened > 0; }
     void EndProgram() override { HasEnded = true; }
 
     int ExplorersOpened = 0;

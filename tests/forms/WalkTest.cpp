@@ -1,3 +1,6 @@
+#include <QTimer>
+
+#include "forms/QtDesktop.h"
 #include "forms/WalkFixture.h"
 
 namespace kordavan {
@@ -222,6 +225,27 @@ TEST_F(WalkTest, EndsOnlyOnYes)
     user.WillAnswer(true);
     Choose("MnuExit");
     EXPECT_TRUE(desktop.HasEnded);
+}
+
+/// With the desk itself: leaving the program must neither ask again nor be held up by a window.
+TEST(ExitTest, EndsTheProgramAtOnce)
+{
+    Session session;
+    ScriptedUser user;
+    QtDesktop desktop;
+    Walk walk(session, user, desktop);
+    walk.Go(Screen::Criteria);
+    walk.ShowBeside(Screen::Notes);
+    user.WillAnswer(true);
+    bool isStuck = false;
+    QTimer::singleShot(0, [&walk] { walk.Front()->close(); });
+    QTimer::singleShot(2000, [&isStuck] {
+        isStuck = true;
+        QApplication::exit();
+    });
+    QApplication::exec();
+    EXPECT_FALSE(isStuck);
+    EXPECT_EQ(user.Told.size(), 1U);
 }
 
 TEST_F(WalkTest, ClosingASideWindowAsksNothing)
