@@ -24,6 +24,9 @@ public:
     int MinutesSinceStart() override { return 0; }
     bool OpenFileExplorer() override { return true; }
     void EndProgram() override {}
+    std::optional<std::string> AskOpenFile(const FileDialogText& /*text*/) override { return std::nullopt; }
+    std::optional<std::string> AskSaveFile(const FileDialogText& /*text*/) override { return std::nullopt; }
+    std::string FixedFilesFolder() override { return "."; }
 };
 
 /// A 14 ft simple beam, walked to the report of its first pick.

@@ -16,6 +16,6 @@ int main(int argc, char* argv[])
     kordavan::DialogUser user;
     kordavan::QtDesktop desktop;
     kordavan::Walk walk(session, user, desktop);
-    walk.Go(kordavan::Screen::Criteria);
+    walk.Start();
     return QApplication::exec();
 }

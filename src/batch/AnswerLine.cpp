@@ -4,32 +4,16 @@
 #include <exception>
 #include <string>
 
+#include "batch/AnswerOutcome.h"
 #include "batch/AnswerWriter.h"
 #include "batch/BeamAnswer.h"
 #include "batch/BeamRun.h"
+#include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 
 namespace kordavan {
 
 namespace {
-
-void WriteHead(const JsonValue* id, std::string_view status, AnswerWriter& answer)
-{
-    if (id != nullptr) {
-        answer.Field("id", *id);
-    }
-    answer.Field("status", status);
-}
-
-/// Status, messages and, where the run was refused, the message that did it, which is always the last.
-void WriteOutcome(const JsonValue* id, const CollectingUser& user, bool isDone, AnswerWriter& answer)
-{
-    WriteHead(id, isDone ? "done" : "refused", answer);
-    answer.Messages("messages", user.Heard());
-    if (!isDone && !user.Heard().empty()) {
-        answer.MessageField("refusal", user.Heard().back());
-    }
-}
 
 void AnswerBeam(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
@@ -88,7 +72,9 @@ struct TaskRow {
 constexpr std::array Tasks{
     TaskRow{"beam", AnswerBeam},
     TaskRow{"hip-valley", AnswerHipValley},
+    TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},
+    TaskRow{"write-record", AnswerWriteRecord},
 };
 
 Task FindTask(std::string_view name)

@@ -34,6 +34,7 @@ public:
     void Item(float value);
     void Item(double value);
     void Item(bool flag);
+    void Item(std::string_view text) { Text(text); }
 
     void Messages(std::string_view name, const std::vector<Message>& messages);
     void MessageField(std::string_view name, const Message& message);

@@ -19,25 +19,9 @@ constexpr std::array<std::string_view, 7> BeamFields{"task",   "id",     "editio
                                                      "member", "answer", "stations"};
 constexpr std::array<std::string_view, 5> CriteriaTaskFields{"task", "id", "edition", "criteria", "answer"};
 
-void RefuseUnknownFields(const JsonValue& request, std::span<const std::string_view> known)
-{
-    for (const JsonValue::Member& member : request.GetObject()) {
-        const std::string_view name = NameOf(member);
-        if (std::find(known.begin(), known.end(), name) == known.end()) {
-            FieldPath(name).Fail("no such field in this task");
-        }
-    }
-}
-
-const JsonValue* Find(const JsonValue& request, const char* name)
-{
-    const auto found = request.FindMember(name);
-    return found == request.MemberEnd() ? nullptr : &found->value;
-}
-
 Edition EditionOf(const JsonValue& request)
 {
-    const JsonValue* const year = Find(request, "edition");
+    const JsonValue* const year = FindMember(request, "edition");
     if (year == nullptr) {
         return Edition::Nds2018;
     }
@@ -51,7 +35,7 @@ Edition EditionOf(const JsonValue& request)
 
 bool AnswersYes(const JsonValue& request)
 {
-    const JsonValue* const answer = Find(request, "answer");
+    const JsonValue* const answer = FindMember(request, "answer");
     if (answer == nullptr) {
         return true;
     }
@@ -67,7 +51,7 @@ void ReadProblem(const JsonValue& request, BeamRun& run)
 {
     run.Work.Nds = EditionFlags(EditionOf(request));
     run.User.AnswerWith(AnswersYes(request));
-    if (const JsonValue* const criteria = Find(request, "criteria")) {
+    if (const JsonValue* const criteria = FindMember(request, "criteria")) {
         ReadCriteria(*criteria, FieldPath("criteria"), run.Work.Problem, run.User);
     }
 }
@@ -92,11 +76,11 @@ void RunBeam(const JsonValue& request, BeamRun& run)
 {
     RefuseUnknownFields(request, BeamFields);
     ReadProblem(request, run);
-    if (const JsonValue* const stations = Find(request, "stations")) {
+    if (const JsonValue* const stations = FindMember(request, "stations")) {
         run.WantsStations = FlagOf(*stations, FieldPath("stations"));
     }
     MemberEntry entry;
-    if (const JsonValue* const member = Find(request, "member")) {
+    if (const JsonValue* const member = FindMember(request, "member")) {
         run.HasMember = true;
         ReadMember(*member, FieldPath("member"), run.Work.Problem.Combo1, entry);
     }
@@ -126,7 +110,7 @@ Outcome RunSelection(const JsonValue& request, BeamRun& run)
 
 std::string_view TaskOf(const JsonValue& request)
 {
-    const JsonValue* const task = Find(request, "task");
+    const JsonValue* const task = FindMember(request, "task");
     if (task == nullptr) {
         throw InvalidRequest("task: missing");
     }

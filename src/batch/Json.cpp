@@ -1,5 +1,9 @@
 #include "batch/Json.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 #include "core/Message.h"
 #include "core/NumberText.h"
 
@@ -30,6 +34,23 @@ std::string_view NameOf(const JsonValue::Member& member)
     return {member.name.GetString(), member.name.GetStringLength()};
 }
 
+const JsonValue* FindMember(const JsonValue& object, std::string_view name)
+{
+    const auto found = object.FindMember(
+        JsonValue(rapidjson::StringRef(name.data(), static_cast<rapidjson::SizeType>(name.size()))));
+    return found == object.MemberEnd() ? nullptr : &found->value;
+}
+
+void RefuseUnknownFields(const JsonValue& request, std::span<const std::string_view> known)
+{
+    for (const JsonValue::Member& member : request.GetObject()) {
+        const std::string_view name = NameOf(member);
+        if (std::find(known.begin(), known.end(), name) == known.end()) {
+            FieldPath(name).Fail("no such field in this task");
+        }
+    }
+}
+
 std::string EntryText(const JsonValue& value, const FieldPath& path)
 {
     if (value.IsString()) {
@@ -58,6 +79,24 @@ std::string_view TextOf(const JsonValue& value, const FieldPath& path)
         path.Fail("a text is expected");
     }
     return {value.GetString(), value.GetStringLength()};
+}
+
+std::int16_t ShortOf(const JsonValue& value, const FieldPath& path)
+{
+    constexpr int least = std::numeric_limits<std::int16_t>::min();
+    constexpr int most = std::numeric_limits<std::int16_t>::max();
+    if (!value.IsInt() || value.GetInt() < least || value.GetInt() > most) {
+        path.Fail("a whole number from -32768 to 32767 is expected");
+    }
+    return static_cast<std::int16_t>(value.GetInt());
+}
+
+float FloatOf(const JsonValue& value, const FieldPath& path)
+{
+    if (!value.IsNumber() || !std::isfinite(Single(value.GetDouble()))) {
+        path.Fail("a number that a 32-bit float can hold is expected");
+    }
+    return Single(value.GetDouble());
 }
 
 int PositionOf(const JsonValue& value, int most, const FieldPath& path)

@@ -3,6 +3,8 @@
 #include <rapidjson/document.h>
 
 #include <cstddef>
+#include <cstdint>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -43,12 +45,24 @@ private:
 /// The name of an object's member.
 std::string_view NameOf(const JsonValue::Member& member);
 
+/// The member of this name, or none.
+const JsonValue* FindMember(const JsonValue& object, std::string_view name);
+
+/// Fails where a request has a field that its task does not know.
+void RefuseUnknownFields(const JsonValue& request, std::span<const std::string_view> known);
+
 /// The text of an entry: a JSON text as it is, a number as one would type it.
 std::string EntryText(const JsonValue& value, const FieldPath& path);
 
 bool FlagOf(const JsonValue& value, const FieldPath& path);
 
 std::string_view TextOf(const JsonValue& value, const FieldPath& path);
+
+/// A whole number that 16 bits hold.
+std::int16_t ShortOf(const JsonValue& value, const FieldPath& path);
+
+/// A number that a 32-bit float holds.
+float FloatOf(const JsonValue& value, const FieldPath& path);
 
 /// A whole number from 0 up to `most`.
 int PositionOf(const JsonValue& value, int most, const FieldPath& path);

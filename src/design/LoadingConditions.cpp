@@ -10,7 +10,8 @@ namespace kordavan {
 namespace {
 
 constexpr std::string_view FullyBraced = "0";
-constexpr std::string_view NoLoadPairs = "There are no load pairs to step through yet.";
+constexpr std::string_view NoLoadPairs =
+    "There are no load pairs to step through. Please enter them by Options, Set Defaults.";
 
 void ClearHipLoads(LoadSet& loads)
 {

@@ -41,14 +41,6 @@ inline constexpr std::array DeflectionLimitCycle{
 /// hold.
 void StepDeflectionLimits(Session& session);
 
-/// A pair of commonly used uniform loads.
-struct LoadPair {
-    std::string Live;
-    std::string Total;
-
-    bool operator==(const LoadPair&) const = default;
-};
-
 /// The pair after the one in the boxes: the first when both are empty or "0", empty texts after the last. A
 /// pair is the one in the boxes also when one of the two boxes is empty; pairs of two zeroes are passed over,
 /// and with no others the boxes stay as they are.

@@ -64,6 +64,15 @@ void AskAboutNotes(Session& session, UserPort& user)
     }
 }
 
+Outcome AskToLoseEntries(const Session& session, std::string_view question, UserPort& user)
+{
+    if (!HasUnsavedEntries(session)) {
+        return Outcome::Done;
+    }
+    const std::string text = std::string(EntriesNotSaved) + "\n" + std::string(question);
+    return user.Ask(RiskyQuestion(text)) ? Outcome::Done : Outcome::Refused;
+}
+
 }  // namespace
 
 void StartNewBeam(Session& session)
@@ -86,11 +95,8 @@ void StartNewBeam(Session& session)
 
 Outcome OfferNewBeam(Session& session, UserPort& user)
 {
-    if (HasUnsavedEntries(session)) {
-        const std::string question = std::string(EntriesNotSaved) + "\nDo you wish to start a new beam?";
-        if (!user.Ask(RiskyQuestion(question))) {
-            return Outcome::Refused;
-        }
+    if (AskToLoseEntries(session, "Do you wish to start a new beam?", user) != Outcome::Done) {
+        return Outcome::Refused;
     }
     AskAboutNotes(session, user);
     StartNewBeam(session);
@@ -105,6 +111,11 @@ Outcome OfferNewBeamAfterReport(Session& session, UserPort& user)
     AskAboutNotes(session, user);
     StartNewBeam(session);
     return Outcome::Done;
+}
+
+Outcome OfferToOpen(const Session& session, UserPort& user)
+{
+    return AskToLoseEntries(session, "Do you wish to open another beam?", user);
 }
 
 bool HasUnsavedEntries(const Session& session)

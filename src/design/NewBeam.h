@@ -17,6 +17,10 @@ Outcome OfferNewBeam(Session& session, UserPort& user);
 /// first.
 Outcome OfferNewBeamAfterReport(Session& session, UserPort& user);
 
+/// Asks before another beam takes the place of entries that are not saved. Refused when the person would
+/// rather keep them.
+Outcome OfferToOpen(const Session& session, UserPort& user);
+
 /// True when the entries, as typed, are not those last saved or those that a new beam begins with.
 bool HasUnsavedEntries(const Session& session);
 

@@ -10,6 +10,7 @@
 #include "core/BeamNumbers.h"
 #include "core/BeamProblem.h"
 #include "core/NdsEdition.h"
+#include "design/DefaultSettings.h"
 #include "design/Member.h"
 #include "design/MemberTestResult.h"
 #include "design/SelectionRecord.h"
@@ -72,6 +73,11 @@ struct Session {
     std::optional<SelectionRecord> Selection;  // withdrawn by every change of the entries
     ReportNoteLines NoteClipboard;
     PrintHeader Header;
+    DefaultSettings Defaults;  // as last read or saved
+    bool CenterForms = false;  // forms are centred as they come to the front
+    bool RestoreDefaultPrinter = false;
+    bool HighDPI = false;
+    std::string PrintFont;
 
     BeamProblem KeptProblem;  // the entries as last saved, or as a new beam begins
 };

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "design/SelectionRecord.h"
+#include "records/FileDialogs.h"
 
 namespace kordavan {
 
-/// What the forms need of the desk besides the person: the clock and the shell.
+/// What the forms need of the desk besides the person: clock, shell and files.
 class DesktopPort {
 public:
     DesktopPort() = default;
@@ -16,6 +20,13 @@ public:
     virtual int MinutesSinceStart() = 0;
     virtual bool OpenFileExplorer() = 0;  // false when there is none
     virtual void EndProgram() = 0;
+
+    /// The file that the person chooses; none when cancelled.
+    virtual std::optional<std::string> AskOpenFile(const FileDialogText& text) = 0;
+    virtual std::optional<std::string> AskSaveFile(const FileDialogText& text) = 0;
+
+    /// Where the files of fixed name lie.
+    virtual std::string FixedFilesFolder() = 0;
 };
 
 }  // namespace kordavan

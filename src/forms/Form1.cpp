@@ -1,8 +1,10 @@
 #include "forms/Form1.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -24,6 +26,7 @@
 #include "forms/SpanGroup.h"
 #include "forms/SupportGroup.h"
 #include "forms/UniformLoadGroup.h"
+#include "records/CriteriaFile.h"
 
 namespace kordavan {
 
@@ -171,7 +174,7 @@ QLayout* Form1::MakeCriteria()
 QLayout* Form1::MakeLoads()
 {
     auto* const row = new QHBoxLayout;
-    uniformGroup = new UniformLoadGroup(context, TheWalk().LoadPairs);
+    uniformGroup = new UniformLoadGroup(context);
     hipGroup = new HipValleyGroup(context);
     multiGroup = new MultiSpanGroup(context);
     tables = new QStackedWidget;
@@ -214,14 +217,51 @@ void Form1::MakeFoot()
 
 void Form1::MakeMenus()
 {
+    MakeFileMenu();
+    QMenu& options = AddMenu("&Options");
+    AddCommand(options, {"MnuDefaults", "Edition, print header, load pairs and other standing choices"},
+               "Set &Defaults", [this] { TheWalk().Go(Screen::Settings); });
+    AddToolsMenu();
+    AddHelpMenu(Page);
+}
+
+void Form1::MakeFileMenu()
+{
     QMenu& file = AddMenu("&File");
     AddCommand(
-        file, {"MnuNew"}, "&New Beam", [this] { StartNew(); }, QKeySequence::New);
+        file, {"MnuNew", "Begins another beam"}, "&New Beam", [this] { StartNew(); }, QKeySequence::New);
+    AddCommand(
+        file, {"MnuOpenBeam", "Opens the criteria of a saved beam"}, "&Open Beam...", [this] { OpenBeam(); },
+        QKeySequence::Open);
+    AddCommand(
+        file, {"MnuSaveBeam", "Saves the criteria of this beam"}, "&Save Beam...", [this] { SaveBeam(); },
+        QKeySequence::Save);
+    file.addSeparator();
+    for (std::size_t k = 0; k < recentFiles.size(); ++k) {
+        recentFiles[k] = &AddCommand(file, {BoxName("MnuRecent", k)}, {},
+                                     [this, k] { OpenRecent(Text(recentFiles[k]->data().toString())); });
+    }
+    connect(&file, &QMenu::aboutToShow, this, &Form1::ShowRecentFiles);
+    file.addSeparator();
     AddCommand(file, {"MnuExplorer", "The folder that the program works in"}, "Open File &Explorer",
                [this] { OpenExplorer(); });
     AddExitCommand(file);
-    AddToolsMenu();
-    AddHelpMenu(Page);
+}
+
+void Form1::ShowRecentFiles()
+{
+    const std::vector<std::string> files = ReadRecentFiles(TheWalk().RecentFilesPath());
+    for (std::size_t k = 0; k < recentFiles.size(); ++k) {
+        const bool hasFile = k < files.size();
+        recentFiles[k]->setVisible(hasFile);
+        if (hasFile) {
+            const QString path = Text(files[k]);
+            recentFiles[k]->setData(path);
+            recentFiles[k]->setText(QStringLiteral("&%1 %2").arg(k + 1).arg(
+                QFileInfo(path).fileName().replace(QLatin1String("&"), QLatin1String("&&"))));
+            recentFiles[k]->setToolTip(path);
+        }
+    }
 }
 
 void Form1::OrderTabs()
@@ -286,6 +326,46 @@ void Form1::StartNew()
     }
 }
 
+void Form1::OpenBeam()
+{
+    if (OfferToOpen(TheSession(), User()) != Outcome::Done) {
+        return;
+    }
+    if (const std::optional<std::string> path = TheWalk().Desktop().AskOpenFile(OpenCriteriaDialog)) {
+        LoadBeam(*path);
+    }
+}
+
+void Form1::OpenRecent(const std::string& path)
+{
+    if (OfferToOpen(TheSession(), User()) == Outcome::Done) {
+        LoadBeam(path);
+    }
+}
+
+void Form1::LoadBeam(const std::string& path)
+{
+    if (LoadCriteriaFile(TheSession(), path, User()) != Outcome::Done) {
+        return;
+    }
+    AddRecentFile(TheWalk().RecentFilesPath(), path);
+    partialCalculator->PutAway();
+    Refresh();
+    FocusOn("Span");
+}
+
+void Form1::SaveBeam()
+{
+    if (CheckCriteriaSavable(TheSession(), User()) != Outcome::Done) {
+        return;
+    }
+    DesktopPort& desktop = TheWalk().Desktop();
+    const std::optional<std::string> path = desktop.AskSaveFile(SaveCriteriaDialog);
+    if (path && SaveCriteriaFile(TheSession(), *path, desktop.Today(), User()) == Outcome::Done) {
+        AddRecentFile(TheWalk().RecentFilesPath(), *path);
+    }
+}
+
 void Form1::OpenExplorer()
 {
     if (!TheWalk().Desktop().OpenFileExplorer()) {
@@ -295,6 +375,10 @@ void Form1::OpenExplorer()
 
 void Form1::Calculate()
 {
+    if (material->currentIndex() < 0) {
+        Refuse(User(), Refusal("Please choose a material.", "Combo1"));
+        return;
+    }
     const Progress progress([this](int percent) { gauge->Reach(percent); });
     try {
         if (CalculateAction(TheSession(), User(), progress) == Outcome::Done) {

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
+
 #include "forms/Bindings.h"
 #include "forms/EntryGroup.h"
 #include "forms/Form.h"
 #include "forms/NumericBox.h"
+#include "records/RecentFiles.h"
 
 class QComboBox;
 class QStackedWidget;
@@ -49,6 +52,12 @@ private:
     void Refresh();
     void ShowDiagram(SupportCondition support);
     void StartNew();
+    void OpenBeam();
+    void OpenRecent(const std::string& path);
+    void LoadBeam(const std::string& path);
+    void SaveBeam();
+    void MakeFileMenu();
+    void ShowRecentFiles();
     void OpenExplorer();
     void Calculate();
 
@@ -71,6 +80,7 @@ private:
     QLabel* resultLine = nullptr;
     QPushButton* calculate = nullptr;
     Form4* gauge = nullptr;
+    std::array<QAction*, MostRecentFiles> recentFiles{};
 };
 
 }  // namespace kordavan

@@ -4,7 +4,12 @@
 #include <QDate>
 #include <QDesktopServices>
 #include <QDir>
+#include <QStandardPaths>
 #include <QUrl>
+
+#include "forms/FileDialog.h"
+#include "forms/Kit.h"
+#include "records/RecentFiles.h"
 
 namespace kordavan {
 
@@ -34,6 +39,22 @@ bool QtDesktop::OpenFileExplorer()
 void QtDesktop::EndProgram()
 {
     QCoreApplication::exit();
+}
+
+std::optional<std::string> QtDesktop::AskOpenFile(const FileDialogText& text)
+{
+    return AskFileToOpen(text);
+}
+
+std::optional<std::string> QtDesktop::AskSaveFile(const FileDialogText& text)
+{
+    return AskFileToSave(text);
+}
+
+std::string QtDesktop::FixedFilesFolder()
+{
+    return FolderOfFixedFiles(Text(QCoreApplication::applicationDirPath()),
+                              Text(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
 }
 
 }  // namespace kordavan

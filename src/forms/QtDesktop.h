@@ -15,6 +15,9 @@ public:
     int MinutesSinceStart() override;
     bool OpenFileExplorer() override;
     void EndProgram() override;
+    std::optional<std::string> AskOpenFile(const FileDialogText& text) override;
+    std::optional<std::string> AskSaveFile(const FileDialogText& text) override;
+    std::string FixedFilesFolder() override;
 
 private:
     QElapsedTimer sinceStart;

@@ -16,11 +16,11 @@ enum Line { LoadLine = 1, CaretLine, HeadLine, PsfLine, LengthLine, MultiplyLine
 
 }  // namespace
 
-UniformLoadGroup::UniformLoadGroup(const GroupContext& context, const std::vector<LoadPair>& pairs)
+UniformLoadGroup::UniformLoadGroup(const GroupContext& context)
     : LoadTable(context, "Frame3D3", "Uniform load")
 {
-    AddLoad(pairs);
-    AddCalculator(pairs);
+    AddLoad();
+    AddCalculator();
     Grid().setColumnStretch(HelpColumn, 1);
     Grid().setRowStretch(LineCount, 1);
 }
@@ -41,7 +41,7 @@ void UniformLoadGroup::ShowScreen(const CriteriaScreen& screen)
     }
 }
 
-void UniformLoadGroup::AddLoad(const std::vector<LoadPair>& pairs)
+void UniformLoadGroup::AddLoad()
 {
     LoadSet& loads = Shared().Beam.Problem.Loads;
     AddHeadings({"LL plf", "LL+DL plf"});
@@ -56,14 +56,14 @@ void UniformLoadGroup::AddLoad(const std::vector<LoadPair>& pairs)
     Grid().addWidget(total, LoadLine, TotalColumn);
     AddLetter("LetterA", 'A', 0, clear);
     MakeTableClearable(ClearUniformLoad);
-    step = AddStep({.Name = "PLFspin", .Tip = "Next of your common uniform loads (Alt+3)"}, "PLF", pairs,
+    step = AddStep({.Name = "PLFspin", .Tip = "Next of your common uniform loads (Alt+3)"}, "PLF",
                    &LoadSet::LUNIF, &LoadSet::UNIF);
     step->setShortcut(QKeySequence(Qt::ALT | Qt::Key_3));
     Grid().addWidget(step, LoadLine, StepColumn);
     Grid().addWidget(AddHelp("Command3D14", {"LUNIF", "UNIF", "PLFspin"}), LoadLine, HelpColumn);
 }
 
-void UniformLoadGroup::AddCalculator(const std::vector<LoadPair>& pairs)
+void UniformLoadGroup::AddCalculator()
 {
     LoadSet& loads = Shared().Beam.Problem.Loads;
     NumericBox* const livePsf =
@@ -77,8 +77,8 @@ void UniformLoadGroup::AddCalculator(const std::vector<LoadPair>& pairs)
         MakeButton({.Name = "CalcPSF", .Tip = "Enter the load as psf times a tributary length"}, "&Calc PSF");
     connect(caret, &QPushButton::clicked, livePsf, [livePsf] { livePsf->setFocus(); });
     QPushButton* const stepPsf =
-        AddStep({.Name = "Command1", .Tip = "Next of your common area loads (Alt+4)"}, "PSF", pairs,
-                &LoadSet::Text1, &LoadSet::Text2);
+        AddStep({.Name = "Command1", .Tip = "Next of your common area loads (Alt+4)"}, "PSF", &LoadSet::Text1,
+                &LoadSet::Text2);
     stepPsf->setShortcut(QKeySequence(Qt::ALT | Qt::Key_4));
     multiply = MakeButton({.Name = "Command3D25", .Tip = "Psf times length into the uniform load (Alt+5)"},
                           "Multiply and Insert");
@@ -105,13 +105,12 @@ void UniformLoadGroup::AddCalculator(const std::vector<LoadPair>& pairs)
 }
 
 QPushButton* UniformLoadGroup::AddStep(const ControlText& text, std::string_view caption,
-                                       const std::vector<LoadPair>& pairs, std::string LoadSet::*liveText,
-                                       std::string LoadSet::*totalText)
+                                       std::string LoadSet::*liveText, std::string LoadSet::*totalText)
 {
     QPushButton* const button =
-        AddCommand(text, caption, [&pairs, liveText, totalText](Session& session, UserPort& user) {
+        AddCommand(text, caption, [liveText, totalText](Session& session, UserPort& user) {
             LoadSet& loads = session.Problem.Loads;
-            return StepLoadPair(pairs, loads.*liveText, loads.*totalText, user);
+            return StepLoadPair(session.Defaults.LoadPairs, loads.*liveText, loads.*totalText, user);
         });
     constexpr int widest = 7;
     button->setMaximumWidth(DigitsWidth(*button, widest));

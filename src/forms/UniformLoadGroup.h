@@ -15,16 +15,14 @@ class UniformLoadGroup : public LoadTable {
     Q_OBJECT
 
 public:
-    /// @param pairs  commonly used loads that the buttons step through
-    UniformLoadGroup(const GroupContext& context, const std::vector<LoadPair>& pairs);
+    explicit UniformLoadGroup(const GroupContext& context);
 
     void ShowScreen(const CriteriaScreen& screen);
 
 private:
-    void AddLoad(const std::vector<LoadPair>& pairs);
-    void AddCalculator(const std::vector<LoadPair>& pairs);
-    QPushButton* AddStep(const ControlText& text, std::string_view caption,
-                         const std::vector<LoadPair>& pairs, std::string LoadSet::*live,
+    void AddLoad();
+    void AddCalculator();
+    QPushButton* AddStep(const ControlText& text, std::string_view caption, std::string LoadSet::*live,
                          std::string LoadSet::*total);
 
     NumericBox* live = nullptr;

@@ -6,11 +6,14 @@
 #include "design/NewBeam.h"
 #include "forms/EntryDiagram.h"
 #include "forms/Form1.h"
+#include "forms/Form13.h"
 #include "forms/Form21.h"
 #include "forms/Form25.h"
 #include "forms/Form3.h"
 #include "forms/Form5.h"
 #include "forms/NumericBox.h"
+#include "records/DefaultsFile.h"
+#include "records/RecentFiles.h"
 
 namespace kordavan {
 
@@ -37,6 +40,22 @@ Walk::Walk(Session& currentSession, UserPort& user, DesktopPort& desk)
 
 Walk::~Walk() = default;
 
+void Walk::Start()
+{
+    LoadDefaults(session, DefaultsPath(), frontUser);
+    Go(Screen::Criteria);
+}
+
+std::string Walk::DefaultsPath()
+{
+    return desktop.FixedFilesFolder() + "/" + std::string(DefaultsFileName);
+}
+
+std::string Walk::RecentFilesPath()
+{
+    return desktop.FixedFilesFolder() + "/" + std::string(RecentFilesName);
+}
+
 std::unique_ptr<Form> Walk::MakeForm(Screen screen)
 {
     switch (screen) {
@@ -46,6 +65,8 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form3>(*this);
         case Screen::TestReport:
             return std::make_unique<Form5>(*this);
+        case Screen::Settings:
+            return std::make_unique<Form13>(*this);
         case Screen::Notes:
             return std::make_unique<Form21>(*this);
         case Screen::Calculator:
@@ -77,7 +98,7 @@ void Walk::Go(Screen screen)
     front = &next;
     frontUser.SetFront(front);
     next.Activate();
-    if (CenterForms) {
+    if (session.CenterForms) {
         Center(next);
     }
     next.show();

@@ -5,10 +5,8 @@
 #include <map>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "core/Message.h"
-#include "design/LoadingConditions.h"
 #include "design/Session.h"
 #include "forms/DesktopPort.h"
 
@@ -23,6 +21,7 @@ enum class Screen {
     Criteria,
     WoodSelection,
     TestReport,
+    Settings,
     Notes,
     Calculator,
     SimpleDiagram,
@@ -59,6 +58,13 @@ public:
     UserPort& User() { return frontUser; }
     DesktopPort& Desktop() { return desktop; }
 
+    /// Reads the user's standing choices and shows the first screen.
+    void Start();
+
+    /// The files of fixed name.
+    std::string DefaultsPath();
+    std::string RecentFilesPath();
+
     /// The form of a screen, made if need be.
     Form& FormOf(Screen screen);
 
@@ -78,12 +84,6 @@ public:
 
     /// Puts the calculator's value into the numeric box that had the focus last.
     void InsertIntoLastBox();
-
-    /// Pairs of commonly used uniform loads, for the buttons that step through them.
-    std::vector<LoadPair> LoadPairs;
-
-    /// Whether a form is centred on the screen as it comes to the front.
-    bool CenterForms = true;
 
     /// Counts the analyses, so that a selection screen knows whether its picks are those of the last one.
     int AnalysisCount = 0;

@@ -157,7 +157,8 @@ TEST_F(CriteriaFormTest, StepsThroughTheLoadPairs)
 {
     Click("PLFspin");
     ASSERT_EQ(user.Told.size(), 1U);
-    walk.LoadPairs = {{.Live = "40", .Total = "55"}, {.Live = "25", .Total = "40"}};
+    session.Defaults.LoadPairs[0] = {.Live = "40", .Total = "55"};
+    session.Defaults.LoadPairs[1] = {.Live = "25", .Total = "40"};
     Click("PLFspin");
     EXPECT_EQ(BoxText("LUNIF"), "40");
     EXPECT_EQ(BoxText("UNIF"), "55");

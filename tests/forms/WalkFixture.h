@@ -9,7 +9,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTemporaryDir>
 #include <QTest>
+#include <optional>
 #include <stdexcept>
 #include <string>
 
@@ -27,8 +29,25 @@ public:
     bool OpenFileExplorer() override { return ++ExplorersOpened > 0; }
     void EndProgram() override { HasEnded = true; }
 
+    std::optional<std::string> AskOpenFile(const FileDialogText& text) override { return Choose(text); }
+    std::optional<std::string> AskSaveFile(const FileDialogText& text) override { return Choose(text); }
+    std::string FixedFilesFolder() override { return Text(Folder.path()); }
+
+    /// A file in the folder of this test.
+    std::string PathOf(const std::string& name) const { return Text(Folder.filePath(Text(name))); }
+
+    std::optional<std::string> ChosenFile;  // by the next dialog; none cancels it
+    std::vector<std::string> DialogTitles;  // of the dialogs shown
+    QTemporaryDir Folder;
     int ExplorersOpened = 0;
     bool HasEnded = false;
+
+private:
+    std::optional<std::string> Choose(const FileDialogText& text)
+    {
+        DialogTitles.emplace_back(text.Title);
+        return ChosenFile;
+    }
 };
 
 /// The program at a desk whose person and clock are scripted: it opens on the criteria, and a test types and
@@ -37,7 +56,7 @@ class WalkFixture : public testing::Test {
 protected:
     WalkFixture() : walk(session, user, desktop)
     {
-        walk.Go(Screen::Criteria);
+        walk.Start();
         Settle();
     }
 

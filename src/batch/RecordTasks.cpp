@@ -1,0 +1,203 @@
+#include "batch/RecordTasks.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "batch/AnswerOutcome.h"
+#include "batch/CollectingUser.h"
+#include "records/CriteriaLayout.h"
+#include "records/CriteriaRecord.h"
+#include "records/DefaultsFile.h"
+#include "records/DefaultsLayout.h"
+#include "records/RecordFile.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> ReadFields{"task", "id", "edition", "kind", "path"};
+constexpr std::array<std::string_view, 6> WriteFields{"task", "id", "edition", "kind", "path", "fields"};
+constexpr std::string_view TagField = "RecordTag";
+
+/// A kind of record file: its layout, the tag it is written with, and what loading it tells.
+struct RecordKind {
+    std::string_view Name;
+    const RecordLayout* Layout;
+    std::int16_t Tag;
+    Outcome (*CheckTag)(const PackedRecord& record, UserPort& user);
+    void (*TellLoaded)(const PackedRecord& record, UserPort& user);
+};
+
+void TellNothing(const PackedRecord& /*record*/, UserPort& /*user*/) {}
+
+constexpr std::array Kinds{
+    RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteriaEdition},
+    RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},
+};
+
+const JsonValue& Needed(const JsonValue& request, std::string_view name)
+{
+    const JsonValue* const value = FindMember(request, name);
+    if (value == nullptr) {
+        FieldPath(name).Fail("missing");
+    }
+    return *value;
+}
+
+const RecordKind& KindOf(const JsonValue& request)
+{
+    const FieldPath path("kind");
+    const std::string_view name = TextOf(Needed(request, "kind"), path);
+    for (const RecordKind& kind : Kinds) {
+        if (kind.Name == name) {
+            return kind;
+        }
+    }
+    path.Fail("no such kind of record");
+}
+
+std::string PathOf(const JsonValue& request)
+{
+    return std::string(TextOf(Needed(request, "path"), FieldPath("path")));
+}
+
+void WriteElement(const PackedRecord& record, const RecordField& field, std::size_t index,
+                  AnswerWriter& answer)
+{
+    if (field.Type == FieldType::Text) {
+        answer.Item(record.Text(field.Name, index));
+    } else {
+        answer.Item(record.Float(field.Name, index));
+    }
+}
+
+void WriteField(const PackedRecord& record, const RecordField& field, AnswerWriter& answer)
+{
+    if (field.Count > 1) {
+        answer.BeginArray(field.Name);
+        for (std::size_t k = 0; k < field.Count; ++k) {
+            WriteElement(record, field, k, answer);
+        }
+        answer.EndArray();
+        return;
+    }
+    switch (field.Type) {
+        case FieldType::Integer:
+            answer.Field(field.Name, record.Integer(field.Name));
+            break;
+        case FieldType::Flag:
+            answer.Field(field.Name, record.Flag(field.Name));
+            break;
+        case FieldType::Float:
+            answer.Field(field.Name, record.Float(field.Name));
+            break;
+        case FieldType::Text:
+            answer.Field(field.Name, record.Text(field.Name));
+            break;
+        case FieldType::Reserved:
+            break;
+    }
+}
+
+void SetElement(PackedRecord& record, const RecordField& field, std::size_t index, const JsonValue& value,
+                const FieldPath& path)
+{
+    switch (field.Type) {
+        case FieldType::Integer:
+            record.SetInteger(field.Name, ShortOf(value, path));
+            break;
+        case FieldType::Flag:
+            record.SetFlag(field.Name, FlagOf(value, path));
+            break;
+        case FieldType::Float:
+            record.SetFloat(field.Name, FloatOf(value, path), index);
+            break;
+        case FieldType::Text:
+            record.SetText(field.Name, TextOf(value, path), index);
+            break;
+        case FieldType::Reserved:
+            break;
+    }
+}
+
+void SetField(PackedRecord& record, const RecordField& field, const JsonValue& value, const FieldPath& path)
+{
+    if (field.Count == 1) {
+        SetElement(record, field, 0, value, path);
+        return;
+    }
+    std::size_t k = 0;
+    for (const JsonValue& item : ArrayOf(value, field.Count, path).GetArray()) {
+        SetElement(record, field, k, item, path.Item(k));
+        ++k;
+    }
+}
+
+PackedRecord RecordOf(const JsonValue& request, const RecordKind& kind)
+{
+    PackedRecord record(*kind.Layout);
+    record.SetInteger(TagField, kind.Tag);
+    const JsonValue* const fields = FindMember(request, "fields");
+    if (fields == nullptr) {
+        return record;
+    }
+    const FieldPath path("fields");
+    for (const JsonValue::Member& member : ObjectOf(*fields, path).GetObject()) {
+        const std::string_view name = NameOf(member);
+        const FieldPath fieldPath = path.Field(name);
+        const RecordField* const field = FindRecordField(*kind.Layout, name);
+        if (field == nullptr) {
+            fieldPath.Fail("no such field");
+        }
+        SetField(record, *field, member.value, fieldPath);
+    }
+    return record;
+}
+
+}  // namespace
+
+void AnswerReadRecord(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
+{
+    RefuseUnknownFields(request, ReadFields);
+    const RecordKind& kind = KindOf(request);
+    const std::string path = PathOf(request);
+    CollectingUser user;
+    const FileRead file = ReadRecordFile(path);
+    const PackedRecord record(*kind.Layout, file.Bytes.value_or(std::string{}));
+    const Outcome outcome = file.Bytes ? kind.CheckTag(record, user) : RefuseReading(path, file.Fault, user);
+    if (outcome == Outcome::Done) {
+        kind.TellLoaded(record, user);
+    }
+    answer.BeginObject();
+    WriteOutcome(id, user, outcome == Outcome::Done, answer);
+    if (outcome == Outcome::Done) {
+        answer.BeginObject("fields");
+        for (const RecordField& field : kind.Layout->Fields) {
+            WriteField(record, field, answer);
+        }
+        answer.EndObject();
+        answer.Field("bytes", static_cast<double>(file.Bytes->size()));
+    }
+    answer.EndObject();
+}
+
+void AnswerWriteRecord(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
+{
+    RefuseUnknownFields(request, WriteFields);
+    const RecordKind& kind = KindOf(request);
+    const std::string path = PathOf(request);
+    const PackedRecord record = RecordOf(request, kind);
+    CollectingUser user;
+    const std::string fault = ReplaceRecord(path, record.Bytes());
+    const Outcome outcome = fault.empty() ? Outcome::Done : RefuseSaving(path, fault, user);
+    const FileRead saved = ReadRecordFile(path);
+    answer.BeginObject();
+    WriteOutcome(id, user, outcome == Outcome::Done, answer);
+    if (outcome == Outcome::Done && saved.Bytes) {
+        answer.Field("bytes", static_cast<double>(saved.Bytes->size()));
+    }
+    answer.EndObject();
+}
+
+}  // namespace kordavan

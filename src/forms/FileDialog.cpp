@@ -1,0 +1,58 @@
+#include "forms/FileDialog.h"
+
+#include <QApplication>
+#include <QFileDialog>
+
+#include "forms/Kit.h"
+
+namespace kordavan {
+
+namespace {
+
+/// "All Files (*.*)" would leave out files without a dot.
+QString PatternOf(const QString& pattern)
+{
+    return pattern == QLatin1String("*.*") ? QStringLiteral("*.* *") : pattern;
+}
+
+QStringList FiltersOf(const FileDialogText& text)
+{
+    const QStringList parts = Text(text.Filters).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype k = 0; k + 1 < parts.size(); k += 2) {
+        const QString caption = parts[k].section(QLatin1String(" ("), 0, 0);
+        filters.append(QStringLiteral("%1 (%2)").arg(caption, PatternOf(parts[k + 1])));
+    }
+    return filters;
+}
+
+std::optional<std::string> Run(const FileDialogText& text, QFileDialog::AcceptMode mode)
+{
+    QFileDialog dialog(QApplication::activeWindow(), Text(text.Title));
+    const QStringList filters = FiltersOf(text);
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(text.SelectedFilter - 1));
+    dialog.setDefaultSuffix(Text(text.DefaultExtension));
+    dialog.selectFile(Text(text.FileName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    const QString file = dialog.selectedFiles().constFirst();
+    return file.contains(QLatin1Char('*')) ? std::nullopt : std::optional(Text(file));
+}
+
+}  // namespace
+
+std::optional<std::string> AskFileToOpen(const FileDialogText& text)
+{
+    return Run(text, QFileDialog::AcceptOpen);
+}
+
+std::optional<std::string> AskFileToSave(const FileDialogText& text)
+{
+    return Run(text, QFileDialog::AcceptSave);
+}
+
+}  // namespace kordavan

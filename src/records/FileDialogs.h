@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string_view>
+
+namespace kordavan {
+
+/// What a file dialog is asked with.
+struct FileDialogText {
+    std::string_view Title;
+    std::string_view FileName;          // shown first
+    std::string_view DefaultExtension;  // of a name without one; none when opening
+    std::string_view Filters;           // caption and pattern in turn, each closed by a bar
+    int SelectedFilter;                 // counted from 1
+};
+
+inline constexpr std::string_view CriteriaFilters = "All Files (*.*)|*.*|Kordavan Files (*.CRI)|*.CRI|";
+
+inline constexpr FileDialogText OpenCriteriaDialog{.Title = "Open Beam Criteria File",
+                                                   .FileName = "*.CRI",
+                                                   .DefaultExtension = {},
+                                                   .Filters = CriteriaFilters,
+                                                   .SelectedFilter = 2};
+inline constexpr FileDialogText SaveCriteriaDialog{.Title = "Save Beam Criteria As",
+                                                   .FileName = "*.CRI",
+                                                   .DefaultExtension = "CRI",
+                                                   .Filters = CriteriaFilters,
+                                                   .SelectedFilter = 2};
+
+}  // namespace kordavan

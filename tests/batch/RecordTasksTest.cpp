@@ -1,0 +1,317 @@
+#include <gmock/gmock.h>
+#include <rapidjson/document.h>
+#include <rapidjson/stringbuffer.h>
+
+#include <string>
+#include <string_view>
+
+#include "batch/AnswerLine.h"
+#include "records/RecordBytes.h"
+#include "support/CaseName.h"
+
+namespace kordavan {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::string Answer(std::string_view line)
+{
+    rapidjson::StringBuffer buffer;
+    AnswerLine(line, buffer);
+    return {buffer.GetString(), buffer.GetSize()};
+}
+
+/// A line with PATH in place of the path.
+std::string LineWith(std::string line, const std::string& path)
+{
+    return line.replace(line.find("PATH"), 4, path);
+}
+
+RecordBytes BlankCriteria(int tag)
+{
+    RecordBytes bytes(1613);
+    bytes.Short(0, tag).Blanks(2, 90).Blanks(322, 228).Blanks(574, 120).Blanks(704, 595);
+    return bytes.Blanks(1303, 276).Blanks(1599, 6);
+}
+
+RecordBytes BlankDefaults(int tag)
+{
+    RecordBytes bytes(322);
+    return bytes.Short(0, tag).Blanks(2, 228).Blanks(236, 30);
+}
+
+TEST(ReadRecord, GivesEveryFieldOfTheDefaults)
+{
+    const TemporaryFolder folder;
+    RecordBytes bytes = BlankDefaults(4321);
+    bytes.Text(2, "Head").Text(112, "  caf\xE9").Text(222, "JD").On(230).Short(232, 9).On(234);
+    bytes.Text(236, "Arial").Float(266, 40).Float(282, 12.5F).Float(286, 0.1F).Float(302, 3e38F);
+    bytes.Short(306, 1).Text(308, "xx").On(314).Short(318, 1).Short(320, -2);
+    PutFile(folder.Path("a.ini"), bytes.All() + "tail");
+    EXPECT_EQ(Answer(LineWith(R"({"task":"read-record","id":3,"kind":"defaults","path":"PATH"})",
+                              folder.Path("a.ini"))),
+              R"({"id":3,"status":"done","messages":[],"fields":{"RecordTag":4321,"DefHead1":"Head",)"
+              "\"DefHead2\":\"  caf\u00E9\","
+              R"("DefInitials":"JD","defINGRADE":true,"DefCombo":9,"Def600":true,"FontCombo":"Arial",)"
+              R"("Livedefault":[40,0,0,0,12.5],"TotalLoadDefault":[0.1,0,0,0,3e+38],"Def50ksi":true,)"
+              R"("OptionNDS05":false,"OptionNDS12":false,"OptionNDS15":true,"OptionNDS18":false,)"
+              R"("CenterFormCheckbox":1,"DefaultPrinterCheckbox":-2},"bytes":326})");
+}
+
+TEST(ReadRecord, GivesTheFieldsOfCriteriaAsTheyAreHeld)
+{
+    const TemporaryFolder folder;
+    RecordBytes bytes = BlankCriteria(-13);
+    bytes.Text(2, "Barn").Float(92, 16.5F).Short(100, 180).Short(104, 42).On(110).Float(158, 700);
+    bytes.Text(270, "\x17\xB7\xD1\x38")
+        .Float(286, 1)
+        .Text(789, "second")
+        .Text(1483, "2400")
+        .Text(1491, "1.8");
+    bytes.Text(150, std::string_view("\0\0\xC0\x7F", 4)).On(1607);
+    PutFile(folder.Path("a.CRI"), bytes.All());
+    const std::string text =
+        Answer(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", folder.Path("a.CRI")));
+    EXPECT_THAT(text, StartsWith(R"({"status":"done","messages":[{"kind":"alert","title":"Kordavan",)"
+                                 R"("text":"This criteria was saved under NDS 2012 standards."}],)"
+                                 R"("fields":{"RecordTag":-13,"Proj":"Barn","Descrip":"","ID":"",)"
+                                 R"("Span":16.5,"Dur":0,"MaxDefl":180,"LMaxDefl":0,"Combo1":42,)"
+                                 R"("INGRADE":false,"Wet":false,"Rep":true,)"));
+    EXPECT_THAT(text, HasSubstr(R"("PT":[0,0,0,null,0,700],)"));
+    rapidjson::Document answer;
+    answer.Parse(text.c_str());
+    ASSERT_FALSE(answer.HasParseError());
+    EXPECT_EQ(answer["fields"]["BEGP"][0].GetFloat(), 0.0001F);  // the held zero of a start
+    EXPECT_EQ(answer["fields"]["BEGP"][1].GetFloat(), 0.0F);
+    EXPECT_EQ(answer["fields"]["BEGP"][4].GetFloat(), 1.0F);
+    EXPECT_THAT(text, HasSubstr(R"("ReportNotes":["","second","","","","",""],)"));
+    EXPECT_THAT(text, HasSubstr(R"("Custom.Combo1":"","Custom.Text1":"2400","Custom.Text2":"",)"
+                                R"("Custom.Text4":"1.8","Custom.Text3":"",)"));
+    EXPECT_THAT(text, testing::EndsWith(R"("Nds2012":true,"Nds2015":false,"Nds2018":false},"bytes":1613})"));
+}
+
+TEST(ReadRecord, TakesAShortFileAsFarAsItGoes)
+{
+    const TemporaryFolder folder;
+    PutFile(folder.Path("a.CRI"), BlankCriteria(-11).Text(2, "Barn").Float(92, 16.5F).All().substr(0, 95));
+    const std::string text =
+        Answer(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", folder.Path("a.CRI")));
+    EXPECT_THAT(text, StartsWith(R"({"status":"done","messages":[],"fields":{"RecordTag":-11,"Proj":"Barn",)"
+                                 R"("Descrip":"","ID":"","Span":0,)"));
+    EXPECT_THAT(text, testing::EndsWith(R"(},"bytes":95})"));
+}
+
+struct WrongKindCase {
+    std::string_view Kind;
+    std::string Bytes;
+    std::string_view Text;
+};
+
+class WrongKindTest : public testing::TestWithParam<WrongKindCase> {};
+
+TEST_P(WrongKindTest, IsRefusedWithTheMessageOfLoading)
+{
+    const TemporaryFolder folder;
+    PutFile(folder.Path("a"), GetParam().Bytes);
+    const std::string message =
+        R"({"kind":"refusal","title":"Kordavan","text":")" + std::string(GetParam().Text);
+    const std::string text = Answer(
+        LineWith(R"({"task":"read-record","kind":")" + std::string(GetParam().Kind) + R"(","path":"PATH"})",
+                 folder.Path("a")));
+    EXPECT_THAT(text, StartsWith(R"({"status":"refused","messages":[)" + message));
+    EXPECT_THAT(text, HasSubstr(R"(],"refusal":)" + message));
+    EXPECT_THAT(text, testing::Not(HasSubstr("fields")));
+}
+
+constexpr std::string_view NotCriteriaText =
+    R"(The Beam Criteria for this form could not be loaded.  Please check to see if you selected the )"
+    R"(appropriate file.\n\nBeam Criteria files have a default extension of *.CRI\n)"
+    R"(Custom Value files have an extension of *.VAL\nColumn Data Records have an extension of *.COL\n)"
+    R"(Beam Data Records have the default extension of *.DAT\n\n)"
+    R"(You may have saved your data under a different filename or file type."})";
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, WrongKindTest,
+    testing::Values(WrongKindCase{"criteria", BlankDefaults(4321).All(), NotCriteriaText},
+                    WrongKindCase{"criteria", "", NotCriteriaText},
+                    WrongKindCase{"defaults", BlankCriteria(-2007).All(),
+                                  "A new Default Values file has been created for you.  You may set your "},
+                    WrongKindCase{"defaults", "", "A new Default Values file has been created for you.  "}));
+
+TEST(ReadRecord, RefusesAFileThatCannotBeReadAndMakesNone)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("none.CRI");
+    const std::string refusal =
+        R"({"kind":"refusal","title":"Kordavan","text":"This file could not be read:\n    )" + path +
+        R"(\nNo such file or directory"})";
+    EXPECT_EQ(Answer(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", path)),
+              R"({"status":"refused","messages":[)" + refusal + R"(],"refusal":)" + refusal + "}");
+    EXPECT_EQ(folder.FileCount(), 0U);
+}
+
+TEST(WriteRecord, PutsTheFieldsOfCriteriaAtTheirPlaces)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a.CRI");
+    EXPECT_EQ(
+        Answer(LineWith(R"({"task":"write-record","id":"x","kind":"criteria","path":"PATH","fields":{)"
+                        R"("Proj":"Caf\u00e9","Span":16.5,"MaxDefl":-180,"Combo1":42,"Rep":true,"Wet":false,)"
+                        R"("PT":[1,2.5],"BEGP":[0,0.0001,3],"PAR":[],"ReportNotes":["","second"],)"
+                        R"("Custom.Text1":"24000","Nds2018":true}})",
+                        path)),
+        R"({"id":"x","status":"done","messages":[],"bytes":1613})");
+    RecordBytes expected = BlankCriteria(-2007);
+    expected.Text(2, "Caf\xE9").Float(92, 16.5F).Short(100, -180).Short(104, 42).On(110);
+    expected.Float(138, 1).Float(142, 2.5F).Text(274, "\x17\xB7\xD1\x38").Float(278, 3);
+    expected.Text(789, "second").Text(1483, "2400").On(1611);
+    EXPECT_EQ(FirstDifference(FileBytes(path), expected.All()), "");
+    EXPECT_EQ(folder.FileCount(), 1U);
+}
+
+TEST(WriteRecord, PutsTheFieldsOfTheDefaultsAtTheirPlaces)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a.ini");
+    EXPECT_EQ(
+        Answer(LineWith(R"({"task":"write-record","kind":"defaults","path":"PATH","fields":{)"
+                        R"("DefHead2":"two","DefInitials":"ABCDEFGHIJ","DefCombo":9,"Livedefault":[40],)"
+                        R"("TotalLoadDefault":[1,2,3,4,5],"CenterFormCheckbox":1}})",
+                        path)),
+        R"({"status":"done","messages":[],"bytes":322})");
+    RecordBytes expected = BlankDefaults(4321);
+    expected.Text(112, "two").Text(222, "ABCDEFGH").Short(232, 9).Float(266, 40);
+    expected.Float(286, 1).Float(290, 2).Float(294, 3).Float(298, 4).Float(302, 5).Short(318, 1);
+    EXPECT_EQ(FirstDifference(FileBytes(path), expected.All()), "");
+}
+
+TEST(WriteRecord, TakesATagAmongTheFields)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a.CRI");
+    EXPECT_EQ(
+        Answer(LineWith(
+            R"({"task":"write-record","kind":"criteria","path":"PATH","fields":{"RecordTag":-12}})", path)),
+        R"({"status":"done","messages":[],"bytes":1613})");
+    EXPECT_EQ(FirstDifference(FileBytes(path), BlankCriteria(-12).All()), "");
+}
+
+TEST(WriteRecord, KeepsWhatStandsBehindTheRecord)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a.ini");
+    PutFile(path, std::string(322, 'x') + "tail");
+    EXPECT_EQ(Answer(LineWith(R"({"task":"write-record","kind":"defaults","path":"PATH"})", path)),
+              R"({"status":"done","messages":[],"bytes":326})");
+    EXPECT_EQ(FirstDifference(FileBytes(path), BlankDefaults(4321).All() + "tail"), "");
+}
+
+TEST(WriteRecord, RefusesWhereNoFileCanBeWritten)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("gone/a.CRI");
+    const std::string refusal =
+        R"({"kind":"refusal","title":"Kordavan","text":"This file could not be saved; what stood in it is )"
+        R"(unchanged:\n    )" +
+        path + R"(\nNo such file or directory"})";
+    EXPECT_EQ(Answer(LineWith(R"({"task":"write-record","kind":"criteria","path":"PATH"})", path)),
+              R"({"status":"refused","messages":[)" + refusal + R"(],"refusal":)" + refusal + "}");
+    EXPECT_EQ(folder.FileCount(), 0U);
+}
+
+struct InvalidCase {
+    std::string_view Line;
+    std::string_view Error;
+};
+
+class InvalidRecordTaskTest : public testing::TestWithParam<InvalidCase> {};
+
+TEST_P(InvalidRecordTaskTest, SaysWhatIsWrongAndTouchesNothing)
+{
+    const TemporaryFolder folder;
+    std::string line(GetParam().Line);
+    if (line.find("PATH") != std::string::npos) {
+        line = LineWith(line, folder.Path("a.CRI"));
+    }
+    EXPECT_EQ(Answer(line), R"({"status":"invalid","error":")" + std::string(GetParam().Error) + R"("})");
+    EXPECT_EQ(folder.FileCount(), 0U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Requests, InvalidRecordTaskTest,
+    testing::Values(InvalidCase{R"({"task":"read-record","path":"PATH"})", "kind: missing"},
+                    InvalidCase{R"({"task":"read-record","kind":"columns","path":"PATH"})",
+                                "kind: no such kind of record"},
+                    InvalidCase{R"({"task":"read-record","kind":7,"path":"PATH"})",
+                                "kind: a text is expected"},
+                    InvalidCase{R"({"task":"read-record","kind":"criteria"})", "path: missing"},
+                    InvalidCase{R"({"task":"read-record","kind":"criteria","path":["PATH"]})",
+                                "path: a text is expected"},
+                    InvalidCase{R"({"task":"read-record","kind":"criteria","path":"PATH","fields":{}})",
+                                "fields: no such field in this task"},
+                    InvalidCase{R"({"task":"write-record","path":"PATH"})", "kind: missing"},
+                    InvalidCase{R"({"task":"write-record","kind":"Criteria","path":"PATH"})",
+                                "kind: no such kind of record"},
+                    InvalidCase{R"({"task":"write-record","kind":"criteria"})", "path: missing"},
+                    InvalidCase{R"({"task":"write-record","kind":"criteria","path":"PATH","field":{}})",
+                                "field: no such field in this task"}));
+
+struct InvalidFieldCase {
+    std::string_view Kind;
+    std::string_view Fields;
+    std::string_view Error;
+};
+
+class InvalidRecordFieldTest : public testing::TestWithParam<InvalidFieldCase> {};
+
+TEST_P(InvalidRecordFieldTest, LeavesTheOldFile)
+{
+    const InvalidFieldCase& c = GetParam();
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a");
+    PutFile(path, "old");
+    const std::string line = R"({"task":"write-record","kind":")" + std::string(c.Kind) +
+                             R"(","path":"PATH","fields":)" + std::string(c.Fields) + "}";
+    EXPECT_EQ(Answer(LineWith(line, path)),
+              R"({"status":"invalid","error":")" + std::string(c.Error) + R"("})");
+    EXPECT_EQ(FileBytes(path), "old");
+    EXPECT_EQ(folder.FileCount(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fields, InvalidRecordFieldTest,
+    testing::Values(
+        InvalidFieldCase{"criteria", R"([])", "fields: an object is expected"},
+        InvalidFieldCase{"criteria", R"({"Spam":1})", "fields.Spam: no such field"},
+        InvalidFieldCase{"criteria", R"({"":1})", "fields.: no such field"},
+        InvalidFieldCase{"criteria", R"({"DefCombo":1})", "fields.DefCombo: no such field"},
+        InvalidFieldCase{"defaults", R"({"Span":1})", "fields.Span: no such field"},
+        InvalidFieldCase{"criteria", R"({"Proj":1})", "fields.Proj: a text is expected"},
+        InvalidFieldCase{"criteria", R"({"Wet":1})", "fields.Wet: true or false is expected"},
+        InvalidFieldCase{"criteria", R"({"Span":"12"})",
+                         "fields.Span: a number that a 32-bit float can hold is expected"},
+        InvalidFieldCase{"criteria", R"({"Span":1e39})",
+                         "fields.Span: a number that a 32-bit float can hold is expected"},
+        InvalidFieldCase{"criteria", R"({"PT":5})", "fields.PT: an array is expected"},
+        InvalidFieldCase{"criteria", R"({"PT":[1,2,3,4,5,6,7]})", "fields.PT: at most 6 items are expected"},
+        InvalidFieldCase{"criteria", R"({"PAR":[1,2,3,4,5,6]})", "fields.PAR: at most 5 items are expected"},
+        InvalidFieldCase{"criteria", R"({"PT":[1,null]})",
+                         "fields.PT[1]: a number that a 32-bit float can hold is expected"},
+        InvalidFieldCase{"criteria", R"({"ReportNotes":["","","","","","","",""]})",
+                         "fields.ReportNotes: at most 7 items are expected"},
+        InvalidFieldCase{"criteria", R"({"ReportNotes":["",2]})",
+                         "fields.ReportNotes[1]: a text is expected"},
+        InvalidFieldCase{"criteria", R"({"MaxDefl":240.5})",
+                         "fields.MaxDefl: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"criteria", R"({"MaxDefl":32768})",
+                         "fields.MaxDefl: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"criteria", R"({"RecordTag":-32769})",
+                         "fields.RecordTag: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"defaults", R"({"CenterFormCheckbox":true})",
+                         "fields.CenterFormCheckbox: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"defaults", R"({"Livedefault":[0,0,0,0,-1e39]})",
+                         "fields.Livedefault[4]: a number that a 32-bit float can hold is expected"}));
+
+}  // namespace
+}  // namespace kordavan
