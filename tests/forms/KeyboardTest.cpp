@@ -100,8 +100,8 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
     Click("OHbutton");
     Click("CalcPSFPartial");
     EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty());
-    for (const Screen screen : {Screen::WoodSelection, Screen::TestReport, Screen::Notes, Screen::Calculator,
-                                Screen::SimpleDiagram}) {
+    for (const Screen screen : {Screen::WoodSelection, Screen::TestReport, Screen::Settings, Screen::Notes,
+                                Screen::Calculator, Screen::SimpleDiagram}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
 }
@@ -116,8 +116,8 @@ QString SpokenName(const QWidget& control)
 
 TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
-    for (const Screen screen : {Screen::Criteria, Screen::WoodSelection, Screen::TestReport, Screen::Notes,
-                                Screen::Calculator, Screen::OverhangDiagram}) {
+    for (const Screen screen : {Screen::Criteria, Screen::WoodSelection, Screen::TestReport, Screen::Settings,
+                                Screen::Notes, Screen::Calculator, Screen::OverhangDiagram}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {

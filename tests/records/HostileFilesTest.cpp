@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 #include <random>
 
 #include "core/NumberText.h"
@@ -108,7 +109,13 @@ void PutNew(const std::string& path, std::string_view bytes)
 bool IsCalculated(Session& session)
 {
     RefusingUser user;
-    return CalculateAction(session, user) == Outcome::Done;
+    if (CalculateAction(session, user) == Outcome::Refused) {
+        return false;
+    }
+    EXPECT_TRUE(std::isfinite(session.Analysis.R1Applied));
+    EXPECT_TRUE(std::isfinite(session.Analysis.R2Applied));
+    EXPECT_TRUE(std::isfinite(session.Analysis.MaxMomentApplied));
+    return true;
 }
 
 TEST(HostileFiles, AreRecordsOfSomeKind)
