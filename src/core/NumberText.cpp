@@ -257,10 +257,13 @@ std::string Format(Float value, std::string_view format)
 constexpr double LeastWithoutExponent = 1e-4;
 constexpr double MostWithoutExponent = 1e15;
 
-bool ReadsWithoutExponent(double value)
+/// Bounds are compared as the number's own type holds them: a float of 0.0001 is below the double.
+template <typename Number>
+bool ReadsWithoutExponent(Number value)
 {
-    const double magnitude = std::abs(value);
-    return magnitude == 0 || (magnitude >= LeastWithoutExponent && magnitude < MostWithoutExponent);
+    const Number magnitude = std::abs(value);
+    return magnitude == 0 || (magnitude >= static_cast<Number>(LeastWithoutExponent) &&
+                              magnitude < static_cast<Number>(MostWithoutExponent));
 }
 
 }  // namespace
@@ -303,8 +306,8 @@ std::string PlainNumber(float value)
     if (!std::isfinite(value)) {
         return {};
     }
-    const auto notation = ReadsWithoutExponent(static_cast<double>(value)) ? std::chars_format::fixed
-                                                                           : std::chars_format::scientific;
+    const auto notation =
+        ReadsWithoutExponent(value) ? std::chars_format::fixed : std::chars_format::scientific;
     NumberBuffer text{};
     const auto [end, error] =
         std::to_chars(text.data(), text.data() + text.size(), value == 0 ? 0.0F : value, notation);

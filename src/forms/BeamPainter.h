@@ -42,7 +42,7 @@ public:
 private:
     double Across(double feet) const;
     double RowHeight() const;
-    int RowFor(double left, double right);
+    int RowFor(double from, double to);
 
     void DrawBeam(const LoadPicture& picture);
     void DrawSupport(double x, int number);

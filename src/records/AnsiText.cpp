@@ -49,6 +49,9 @@ void AppendUtf8(char32_t character, std::string& text)
     }
 }
 
+/// The first character that needs so many bytes; written in more than it needs, it is no UTF-8.
+constexpr std::array<char32_t, 5> LeastOfLength{0, 0, 0x80, 0x800, 0x10000};
+
 /// Takes one character off the front of a UTF-8 text; a byte that begins none is taken alone, as unknown.
 char32_t TakeUtf8(std::string_view& text)
 {
@@ -56,7 +59,9 @@ char32_t TakeUtf8(std::string_view& text)
     const unsigned first = byteAt(0);
     std::size_t length = 1;
     char32_t character = first;
-    if (first >= 0xF0) {
+    if (first >= 0xF8) {
+        length = 1;
+    } else if (first >= 0xF0) {
         length = 4;
         character = first & 0x07U;
     } else if (first >= 0xE0) {
@@ -72,6 +77,7 @@ char32_t TakeUtf8(std::string_view& text)
         isWhole = (byteAt(k) & 0xC0U) == 0x80;
         character = character << 6U | (byteAt(k) & 0x3FU);
     }
+    isWhole = isWhole && character >= LeastOfLength[length];
     text.remove_prefix(isWhole ? length : 1);
     return isWhole ? character : Unknown;
 }

@@ -145,7 +145,10 @@ TEST(StepLoadPair, RefusesWithoutAPairAndLeavesTheBoxesAlone)
         std::string total = "100";
         ScriptedUser user;
         EXPECT_EQ(StepLoadPair(none, live, total, user), Outcome::Refused);
-        EXPECT_THAT(user.Told, ElementsAre(RefusalOf("There are no load pairs to step through yet.")));
+        EXPECT_THAT(
+            user.Told,
+            ElementsAre(RefusalOf(
+                "There are no load pairs to step through. Please enter them by Options, Set Defaults.")));
         EXPECT_EQ(live, "60");
         EXPECT_EQ(total, "100");
     }

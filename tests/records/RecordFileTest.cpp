@@ -72,7 +72,7 @@ TEST(ReadRecordFile, RefusesWhatIsNoFile)
 
 TEST(ReadRecordFile, RefusesAFileOverSixteenMebibytes)
 {
-    constexpr std::size_t most = 16 * 1024 * 1024;
+    constexpr std::size_t most = std::size_t{16} << 20U;
     const TemporaryFolder folder;
     const std::string path = folder.Path("large.CRI");
     PutFile(path, "");
