@@ -36,11 +36,14 @@ std::optional<std::string> Run(const FileDialogText& text, QFileDialog::AcceptMo
     dialog.selectNameFilter(filters.value(text.SelectedFilter - 1));
     dialog.setDefaultSuffix(Text(text.DefaultExtension));
     dialog.selectFile(Text(text.FileName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-        return std::nullopt;
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString file = dialog.selectedFiles().constFirst();
+        const bool isPattern = file.contains(QLatin1Char('*'));
+        if (!isPattern) {
+            return Text(file);
+        }
     }
-    const QString file = dialog.selectedFiles().constFirst();
-    return file.contains(QLatin1Char('*')) ? std::nullopt : std::optional(Text(file));
+    return std::nullopt;
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
-#include <QTimer>
 #include <algorithm>
 #include <string>
 
@@ -82,7 +81,8 @@ bool LoadPairGroup::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::FocusOut) {
         auto* const box = static_cast<NumericBox*>(watched);
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        QTimer::singleShot(0, box, [this, box, reason] { JudgeLeft(*box, reason); });
+        QMetaObject::invokeMethod(
+            box, [this, box, reason] { JudgeLeft(*box, reason); }, Qt::QueuedConnection);
     }
     return EntryGroup::eventFilter(watched, event);
 }
