@@ -59,7 +59,12 @@ const RecordKind& KindOf(const JsonValue& request)
 
 std::string PathOf(const JsonValue& request)
 {
-    return std::string(TextOf(Needed(request, "path"), FieldPath("path")));
+    const FieldPath path("path");
+    const std::string_view text = TextOf(Needed(request, "path"), path);
+    if (text.find('\0') != std::string_view::npos) {
+        path.Fail("a path without null characters is expected");
+    }
+    return std::string(text);
 }
 
 void WriteElement(const PackedRecord& record, const RecordField& field, std::size_t index,

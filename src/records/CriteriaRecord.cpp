@@ -331,9 +331,14 @@ void WriteMember(const Session& session, CalendarDay today, PackedRecord& record
 }
 
 /// The boxes of the custom screen, each at the place of its own name.
-void WriteCustom(const MemberEntry& entry, PackedRecord& record)
+void WriteCustom(const MemberEntry& entry, SpeciesGroup group, PackedRecord& record)
 {
     const CustomEntry& custom = entry.Custom;
+    if (group == SpeciesGroup::Scl || group == SpeciesGroup::Custom) {
+        record.SetText("Custom.Text5", entry.SpeciesText);
+        record.SetText("Custom.Text6", entry.BreadthText);
+        record.SetText("Custom.Text7", entry.DepthText);
+    }
     record.SetText("Custom.Text1", custom.Fb);
     record.SetText("Custom.Text2", custom.Fv);
     record.SetText("Custom.Text4", custom.E);
@@ -371,7 +376,7 @@ CriteriaRecordMade MakeCriteriaRecord(const Session& session, CalendarDay today)
     }
     made.UnfitBox = writer.UnfitBox();
     WriteMember(session, today, made.Record);
-    WriteCustom(session.Entry, made.Record);
+    WriteCustom(session.Entry, problem.Combo1, made.Record);
     WriteHeaderAndNotes(session, made.Record);
     return made;
 }

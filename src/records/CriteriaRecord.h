@@ -26,7 +26,7 @@ Outcome CheckCriteriaTag(const PackedRecord& record, UserPort& user);
 /// material that does not exist, is refused with nothing changed.
 ///
 /// What a file does not hold is as in a new beam, except that files of the first generation leave `Incised`,
-/// the notes and the edition as they are.
+/// `ksi50`, the notes and the edition as they are.
 Outcome RestoreCriteria(const PackedRecord& record, Session& session, UserPort& user);
 
 /// Tells under which edition a record was saved; records that hold no editions tell nothing.

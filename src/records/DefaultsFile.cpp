@@ -8,6 +8,8 @@
 #include <utility>
 
 #include "core/NumberText.h"
+#include "design/EntryAdjustment.h"
+#include "design/NewBeam.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecordFile.h"
 
@@ -214,6 +216,7 @@ Outcome SaveDefaults(Session& session, const DefaultSettings& settings, const st
     if (const std::string fault = ReplaceRecord(path, record.Bytes()); !fault.empty()) {
         return RefuseSaving(path, fault, user);
     }
+    const bool wasSaved = !HasUnsavedEntries(session);
     ApplySettings(session, settings);
     session.CenterForms = settings.CenterFormCheckbox;
     session.RestoreDefaultPrinter = settings.DefaultPrinterCheckbox;
@@ -223,6 +226,9 @@ Outcome SaveDefaults(Session& session, const DefaultSettings& settings, const st
         session.Problem.ksi50 = settings.Def50ksi;
     }
     session.Selection.reset();
+    if (wasSaved) {
+        session.KeptProblem = TypedEntries(session);
+    }
     user.Tell(Alert(Saved));
     return Outcome::Done;
 }

@@ -7,7 +7,9 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
+#include <functional>
 #include <system_error>
+#include <thread>
 
 namespace kordavan {
 
@@ -16,7 +18,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t LargestFile = std::size_t{16} << 20U;  // bytes; a record file has a few thousand
-constexpr mode_t NewFileMode = 0644;
+constexpr mode_t NewFileMode = 0666;                         // less what the user masks
+constexpr int MostNamesTried = 100;
 
 std::string FaultText(int error)
 {
@@ -77,7 +80,11 @@ fs::path TargetOf(const std::string& path)
 {
     std::error_code ignored;
     const fs::path target = fs::canonical(path, ignored);
-    return target.empty() ? fs::path(path) : target;
+    if (!target.empty()) {
+        return target;
+    }
+    const fs::path link = fs::read_symlink(path, ignored);
+    return link.empty() ? fs::path(path) : fs::path(path).parent_path() / link;
 }
 
 fs::path FolderOf(const fs::path& target)
@@ -86,7 +93,7 @@ fs::path FolderOf(const fs::path& target)
 }
 
 /// A file that may not be written must not be replaced either, though its folder would let us.
-int CheckReplaceable(const fs::path& target, mode_t& mode)
+int CheckReplaceable(const fs::path& target, std::optional<mode_t>& mode)
 {
     struct stat status {};
     if (stat(target.c_str(), &status) != 0) {
@@ -102,16 +109,33 @@ int CheckReplaceable(const fs::path& target, mode_t& mode)
     return access(target.c_str(), W_OK) != 0 ? errno : 0;
 }
 
-/// Writes a temporary file and renames it over the target; gives the error that stopped it, or 0.
-int WriteAndRename(const fs::path& target, std::string_view content, mode_t mode)
+/// Makes a file of a new name in the folder, whatever else runs there.
+int MakeTemporary(const fs::path& folder, std::string& name)
 {
-    std::string temporary = target.string() + ".XXXXXX";
-    OpenFile file(mkostemp(temporary.data(), O_CLOEXEC));
+    const std::size_t thread = std::hash<std::thread::id>{}(std::this_thread::get_id());
+    const std::string beginning =
+        ".kordavan-" + std::to_string(getpid()) + "-" + std::to_string(thread) + "-";
+    for (int tried = 0; tried < MostNamesTried; ++tried) {
+        name = folder / (beginning + std::to_string(tried));
+        const int descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, NewFileMode);
+        if (descriptor >= 0 || errno != EEXIST) {
+            return descriptor;
+        }
+    }
+    return -1;
+}
+
+/// Writes a temporary file and renames it over the target; gives the error that stopped it, or 0.
+/// @param mode  of the file replaced; none for a new one
+int WriteAndRename(const fs::path& target, std::string_view content, std::optional<mode_t> mode)
+{
+    std::string temporary;
+    OpenFile file(MakeTemporary(FolderOf(target), temporary));
     if (!file.IsOpen()) {
         return errno;
     }
     int error = WriteAll(file.Descriptor(), content);
-    if (error == 0 && fchmod(file.Descriptor(), mode) != 0) {
+    if (error == 0 && mode && fchmod(file.Descriptor(), *mode) != 0) {
         error = errno;
     }
     const int closing = file.Close();
@@ -187,7 +211,7 @@ std::string ReplaceRecord(const std::string& path, std::string_view record)
 std::string ReplaceFile(const std::string& path, std::string_view content)
 {
     const fs::path target = TargetOf(path);
-    mode_t mode = NewFileMode;
+    std::optional<mode_t> mode;
     int error = CheckReplaceable(target, mode);
     if (error == 0) {
         error = WriteAndRename(target, content, mode);

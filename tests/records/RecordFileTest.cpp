@@ -1,6 +1,7 @@
 #include "records/RecordFile.h"
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -225,6 +226,50 @@ TEST(ReplaceRecord, LeavesAReadOnlyFolderAlone)
     EXPECT_EQ(folder.FileCount(), 1U);
 }
 
+/// A disk that takes so many bytes of a file and no more.
+class FullDisk {
+public:
+    explicit FullDisk(rlim_t bytes) : before(signal(SIGXFSZ, SIG_IGN))
+    {
+        EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+        const rlimit limited{.rlim_cur = bytes, .rlim_max = unlimited.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &unlimited);
+        signal(SIGXFSZ, before);
+    }
+
+private:
+    rlimit unlimited{};
+    void (*before)(int);
+};
+
+std::string FaultOnFullDisk(const std::string& path, std::string_view record, rlim_t bytes)
+{
+    const FullDisk disk(bytes);
+    return ReplaceRecord(path, record);
+}
+
+TEST(ReplaceRecord, ThatDoesNotFitOnTheDiskLeavesNoTrace)
+{
+    const std::string record(10000, 'r');
+    for (const rlim_t bytes : {0, 1, 4096, 9999}) {
+        const TemporaryFolder folder;
+        const std::string path = folder.Path("beam.CRI");
+        PutFile(path, "old");
+        EXPECT_EQ(FaultOnFullDisk(path, record, bytes), "File too large") << bytes;
+        EXPECT_EQ(FaultOnFullDisk(folder.Path("new.CRI"), record, bytes), "File too large") << bytes;
+        EXPECT_EQ(FileBytes(path), "old") << bytes;
+        EXPECT_EQ(folder.FileCount(), 1U) << bytes;
+        EXPECT_EQ(FaultOnFullDisk(path, record, 10000), "");
+        EXPECT_EQ(FileBytes(path), record);
+    }
+}
+
 TEST(ReplaceFile, KeepsNothingOfTheOldFile)
 {
     const TemporaryFolder folder;
@@ -278,11 +323,12 @@ TEST(ReplaceRecord, KilledOnItsWayLeavesOneOfTheTwoFilesWhole)
         if (child == 0) {
             SaveForEver(path, one, other);
         }
-        EXPECT_TRUE(IsSavedSoon(path, before));
+        const bool isSaved = IsSavedSoon(path, before);
         std::this_thread::sleep_for(std::chrono::microseconds(k * 370));
         kill(child, SIGKILL);
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
+        ASSERT_TRUE(isSaved);
         EXPECT_TRUE(WIFSIGNALED(status));  // it was still saving
         const std::string bytes = FileBytes(path);
         EXPECT_TRUE(bytes == one + tail || bytes == other + tail) << "kill " << k << ", " << bytes.size();
