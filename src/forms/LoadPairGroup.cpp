@@ -53,6 +53,7 @@ bool IsLeft(Qt::FocusReason reason, const QWidget* now)
 LoadPairGroup::LoadPairGroup(const GroupContext& context, std::array<LoadPair, LoadPairCount>& pairs)
     : EntryGroup(context, "LoadPairGroup", "Load pairs")
 {
+    connect(this, &LoadPairGroup::BoxLeft, this, &LoadPairGroup::JudgeLeft, Qt::QueuedConnection);
     QLabel* const advice = MakeNamedLabel("Label7", Advice);
     advice->setWordWrap(true);
     constexpr int adviceDigits = 30;
@@ -81,8 +82,7 @@ bool LoadPairGroup::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::FocusOut) {
         auto* const box = static_cast<NumericBox*>(watched);
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        QMetaObject::invokeMethod(
-            box, [this, box, reason] { JudgeLeft(*box, reason); }, Qt::QueuedConnection);
+        Q_EMIT BoxLeft(box, reason);
     }
     return EntryGroup::eventFilter(watched, event);
 }
@@ -103,18 +103,18 @@ QLabel* LoadPairGroup::MakeHead(std::string_view caption, NumericBox& firstBox)
     return head;
 }
 
-void LoadPairGroup::JudgeLeft(NumericBox& box, Qt::FocusReason reason)
+void LoadPairGroup::JudgeLeft(NumericBox* box, Qt::FocusReason reason)
 {
     const QWidget* const now = window()->focusWidget();
     const bool isSpared = std::find(sparing.begin(), sparing.end(), now) != sparing.end();
-    if (now == &box || !IsLeft(reason, now) || isSpared || !box.isVisible()) {
+    if (now == box || !IsLeft(reason, now) || isSpared || !box->isVisible()) {
         return;
     }
-    const bool isLive = box.objectName().startsWith(Text(LiveArray));
+    const bool isLive = box->objectName().startsWith(Text(LiveArray));
     const std::string_view fault =
-        LoadPairFault(Text(box.text()), isLive ? LoadPairSide::Live : LoadPairSide::Total);
+        LoadPairFault(Text(box->text()), isLive ? LoadPairSide::Live : LoadPairSide::Total);
     if (!fault.empty()) {
-        Shared().Numbers.User.Tell(Alert(fault, Text(box.objectName())));
+        Shared().Numbers.User.Tell(Alert(fault, Text(box->objectName())));
     }
 }
 

@@ -21,13 +21,16 @@ public:
     /// The boxes may be left at fault for this control, which judges them itself or leaves them as they are.
     void SpareOnTheWayTo(QWidget& control) { sparing.push_back(&control); }
 
+Q_SIGNALS:
+    void BoxLeft(NumericBox* box, Qt::FocusReason reason);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     NumericBox* AddBox(std::string_view array, std::size_t index, std::string_view what, std::string& bound);
     QLabel* MakeHead(std::string_view caption, NumericBox& firstBox);
-    void JudgeLeft(NumericBox& box, Qt::FocusReason reason);
+    void JudgeLeft(NumericBox* box, Qt::FocusReason reason);
 
     std::vector<QWidget*> sparing;
 };

@@ -79,7 +79,7 @@ void FlushFolder(const fs::path& folder)
 fs::path TargetOf(const std::string& path)
 {
     std::error_code ignored;
-    const fs::path target = fs::canonical(path, ignored);
+    fs::path target = fs::canonical(path, ignored);
     if (!target.empty()) {
         return target;
     }
