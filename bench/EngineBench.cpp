@@ -1,9 +1,13 @@
 #include <benchmark/benchmark.h>
 
+#include <vector>
+
 #include "analysis/AppliedLoads.h"
 #include "batch/CollectingUser.h"
 #include "design/CalculateAction.h"
 #include "design/Selection.h"
+#include "design/SteelScan.h"
+#include "design/SteelTest.h"
 #include "design/TestMember.h"
 #include "design/TestReport.h"
 
@@ -90,5 +94,24 @@ void SelectionTable(benchmark::State& state)
     }
 }
 BENCHMARK(SelectionTable);
+
+/// The longest family on a beam that none of its shapes passes, so that every row is tried to the end.
+void SteelScan(benchmark::State& state)
+{
+    Session session;
+    session.Problem = FullyLoadedBeam();
+    session.Problem.Combo1 = SpeciesGroup::Steel;
+    session.Problem.LMaxDefl = "1e9";
+    CollectingUser user;
+    CalculateAction(session, user);
+    PrepareSteel(session);
+    std::vector<SteelSlot> slots;
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(ScanSteelCandidates(
+            {.Beam = session.Numbers, .Applied = session.Analysis, .Criteria = session.SteelPicks.Criteria},
+            user, slots));
+    }
+}
+BENCHMARK(SteelScan);
 
 }  // namespace

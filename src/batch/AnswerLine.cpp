@@ -10,6 +10,7 @@
 #include "batch/BeamRun.h"
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
+#include "batch/SteelAnswer.h"
 
 namespace kordavan {
 
@@ -30,7 +31,11 @@ void AnswerBeam(const JsonValue& request, const JsonValue* id, AnswerWriter& ans
         WriteStations(run.Work.Stations, answer);
     }
     if (run.Tested) {
-        WriteMemberTest(run.Work.Member, answer);
+        if (run.Work.Numbers.IsSteel()) {
+            WriteSteelTest(run.Work, answer);
+        } else {
+            WriteMemberTest(run.Work.Member, answer);
+        }
         WriteReport(run.Work, answer);
     }
     answer.EndObject();
@@ -62,6 +67,19 @@ void AnswerSelection(const JsonValue& request, const JsonValue* id, AnswerWriter
     answer.EndObject();
 }
 
+void AnswerSteelScan(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
+{
+    BeamRun run;
+    const bool isDone = RunSteelScan(request, run) == Outcome::Done;
+    answer.BeginObject();
+    WriteOutcome(id, run.User, isDone, answer);
+    if (isDone) {
+        WriteSteelSlots(run.Work.SteelPicks, answer);
+        WriteSteelLabels(MakeSteelSelectionTexts(run.Work), answer);
+    }
+    answer.EndObject();
+}
+
 using Task = void (*)(const JsonValue&, const JsonValue*, AnswerWriter&);
 
 struct TaskRow {
@@ -74,6 +92,7 @@ constexpr std::array Tasks{
     TaskRow{"hip-valley", AnswerHipValley},
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},
+    TaskRow{"steel-scan", AnswerSteelScan},
     TaskRow{"write-record", AnswerWriteRecord},
 };
 

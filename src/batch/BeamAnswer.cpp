@@ -5,6 +5,7 @@
 #include <string_view>
 #include <variant>
 
+#include "batch/FloatFields.h"
 #include "core/CriteriaFields.h"
 #include "core/EntryRules.h"
 #include "core/NumberText.h"
@@ -13,21 +14,6 @@
 namespace kordavan {
 
 namespace {
-
-template <typename Record>
-struct FloatField {
-    std::string_view Name;
-    float Record::*Value;
-};
-
-template <typename Record, std::size_t Count>
-void WriteFields(const Record& record, const std::array<FloatField<Record>, Count>& fields,
-                 AnswerWriter& answer)
-{
-    for (const FloatField<Record>& field : fields) {
-        answer.Field(field.Name, record.*field.Value);
-    }
-}
 
 using AnalysisField = FloatField<AnalysisResult>;
 
@@ -249,18 +235,6 @@ private:
     }
 };
 
-void WriteCandidate(const MemberCandidate& candidate, AnswerWriter& answer)
-{
-    answer.BeginObject("member");
-    answer.Field("BreadthKey", KeyText(candidate.BreadthKey));
-    answer.Field("B", candidate.B);
-    answer.Field("D", candidate.D);
-    answer.Field("NextSmallerDepth", candidate.NextSmallerDepth);
-    answer.Field("NextSmallerDepthText", candidate.NextSmallerDepthText);
-    answer.Field("NextLargerDepthText", candidate.NextLargerDepthText);
-    answer.EndObject();
-}
-
 void WriteValues(const DesignValues& values, AnswerWriter& answer)
 {
     answer.BeginObject("values");
@@ -268,18 +242,6 @@ void WriteValues(const DesignValues& values, AnswerWriter& answer)
     answer.Field("Fv", values.Fv);
     answer.Field("FcPerp", static_cast<int>(values.FcPerp));
     answer.Field("E", values.E);
-    answer.EndObject();
-}
-
-void WriteTest(const MemberTestResult& result, AnswerWriter& answer)
-{
-    answer.BeginObject("test");
-    WriteFields(result, TestFields, answer);
-    answer.Field("NextSmallerOk", result.NextSmallerOk);
-    answer.Field("NoSplits", result.NoSplits);
-    for (const StatusField& field : StatusFields) {
-        answer.Field(field.Name, result.*field.Status);
-    }
     answer.EndObject();
 }
 
@@ -328,9 +290,33 @@ void WriteStations(const StationTable& stations, AnswerWriter& answer)
     answer.EndArray();
 }
 
+void WriteCandidate(const MemberCandidate& candidate, std::string_view breadthKey, AnswerWriter& answer)
+{
+    answer.BeginObject("member");
+    answer.Field("BreadthKey", breadthKey);
+    answer.Field("B", candidate.B);
+    answer.Field("D", candidate.D);
+    answer.Field("NextSmallerDepth", candidate.NextSmallerDepth);
+    answer.Field("NextSmallerDepthText", candidate.NextSmallerDepthText);
+    answer.Field("NextLargerDepthText", candidate.NextLargerDepthText);
+    answer.EndObject();
+}
+
+void WriteTest(const MemberTestResult& result, AnswerWriter& answer)
+{
+    answer.BeginObject("test");
+    WriteFields(result, TestFields, answer);
+    answer.Field("NextSmallerOk", result.NextSmallerOk);
+    answer.Field("NoSplits", result.NoSplits);
+    for (const StatusField& field : StatusFields) {
+        answer.Field(field.Name, result.*field.Status);
+    }
+    answer.EndObject();
+}
+
 void WriteMemberTest(const MemberTest& member, AnswerWriter& answer)
 {
-    WriteCandidate(member.Candidate, answer);
+    WriteCandidate(member.Candidate, KeyText(member.Candidate.BreadthKey), answer);
     WriteValues(member.Values, answer);
     answer.BeginObject("factors");
     WriteFields(member.Factors, ServiceFields, answer);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "batch/AnswerWriter.h"
 #include "design/QuickPicks.h"
 #include "design/Session.h"
@@ -12,6 +14,12 @@ enum class AnalysisPart { AppliedLoads, WithCandidate };
 void WriteCriteria(const Session& session, AnswerWriter& answer);
 void WriteAnalysis(const AnalysisResult& analysis, AnalysisPart part, AnswerWriter& answer);
 void WriteStations(const StationTable& stations, AnswerWriter& answer);
+
+/// The size of a member; one of steel has no breadth key.
+void WriteCandidate(const MemberCandidate& candidate, std::string_view breadthKey, AnswerWriter& answer);
+
+/// Figures and statuses of a test.
+void WriteTest(const MemberTestResult& result, AnswerWriter& answer);
 
 /// Member, values, factors, stability, adjusted values and verdict of the member tested last.
 void WriteMemberTest(const MemberTest& member, AnswerWriter& answer);

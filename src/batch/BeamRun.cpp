@@ -9,6 +9,7 @@
 #include "batch/MemberRequest.h"
 #include "design/CalculateAction.h"
 #include "design/LoadTools.h"
+#include "design/SteelSelection.h"
 #include "design/TestMember.h"
 
 namespace kordavan {
@@ -70,6 +71,17 @@ Outcome Calculate(BeamRun& run)
     return PrepareHipValley(run) == Outcome::Done ? CalculateAction(run.Work, run.User) : Outcome::Refused;
 }
 
+/// True when the member was tested, whether it passes or fails.
+bool TestEntry(const MemberEntry& entry, BeamRun& run)
+{
+    if (!run.Work.Numbers.IsSteel()) {
+        return TestMember(run.Work, entry, {}, run.User) == Outcome::Done;
+    }
+    PrepareSteel(run.Work);
+    run.Work.Entry.ShapeName = entry.ShapeName;
+    return TestEnteredShape(run.Work, run.User) == SteelTestEnd::Done;
+}
+
 }  // namespace
 
 void RunBeam(const JsonValue& request, BeamRun& run)
@@ -88,7 +100,7 @@ void RunBeam(const JsonValue& request, BeamRun& run)
     if (!run.Analysed) {
         return;
     }
-    run.Tested = run.HasMember && TestMember(run.Work, entry, {}, run.User) == Outcome::Done;
+    run.Tested = run.HasMember && TestEntry(entry, run);
 }
 
 Outcome RunHipValley(const JsonValue& request, BeamRun& run)
@@ -106,6 +118,16 @@ Outcome RunSelection(const JsonValue& request, BeamRun& run)
         FieldPath("criteria").Field("Combo1").Fail("a species group (0 to 6) is expected");
     }
     return Calculate(run);
+}
+
+Outcome RunSteelScan(const JsonValue& request, BeamRun& run)
+{
+    RefuseUnknownFields(request, CriteriaTaskFields);
+    ReadProblem(request, run);
+    if (run.Work.Problem.Combo1 != SpeciesGroup::Steel) {
+        FieldPath("criteria").Field("Combo1").Fail("the steel group (9) is expected");
+    }
+    return Calculate(run) == Outcome::Done ? OpenSteelSelection(run.Work, run.User) : Outcome::Refused;
 }
 
 std::string_view TaskOf(const JsonValue& request)

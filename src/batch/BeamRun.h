@@ -24,6 +24,9 @@ void RunBeam(const JsonValue& request, BeamRun& run);
 /// Runs the calculate action alone, for a species group. Throws InvalidRequest.
 Outcome RunSelection(const JsonValue& request, BeamRun& run);
 
+/// Runs the calculate action and the scan of steel candidates. Throws InvalidRequest.
+Outcome RunSteelScan(const JsonValue& request, BeamRun& run);
+
 /// Runs the hips and valleys tool alone. Throws InvalidRequest.
 Outcome RunHipValley(const JsonValue& request, BeamRun& run);
 

@@ -40,8 +40,13 @@ constexpr std::array Fields{
 };
 constexpr std::size_t ListedFieldCount = 3;
 
+constexpr std::array SteelFields{MemberField{"ShapeName", &MemberEntry::ShapeName}};
+
 std::span<const MemberField> FieldsOf(SpeciesGroup group)
 {
+    if (group == SpeciesGroup::Steel) {
+        return SteelFields;
+    }
     const std::span<const MemberField> all(Fields);
     return group == SpeciesGroup::Custom ? all : all.first(ListedFieldCount);
 }

@@ -156,11 +156,19 @@ void WriteChecks(const std::array<CheckRow, 6>& checks, ReportText& text)
     }
 }
 
+/// Grade lines of steel begin and end with blanks.
+std::string Trimmed(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? std::string{}
+                                      : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 void WriteMember(const Session& session, ReportText& text)
 {
     const TestReport report = MakeTestReport(session);
     const std::array<CheckRow, 6> checks = ChecksOf(report);
-    text.Captioned("Member", report.DisplayChoice + ", " + report.GradeLabel);
+    text.Captioned("Member", report.DisplayChoice + ", " + Trimmed(report.GradeLabel));
     text.Captioned("", report.Label5);
     text.Captioned("", report.Modifiers);
     text.Captioned("Verdict", VerdictText(session.Member.Result, checks));

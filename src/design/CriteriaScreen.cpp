@@ -6,6 +6,7 @@
 #include "design/EntryAdjustment.h"
 #include "design/LoadingConditions.h"
 #include "design/Unbalance.h"
+#include "design/UnbracedEntry.h"
 
 namespace kordavan {
 
@@ -73,7 +74,7 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
     screen.Title = TitleOf(session);
     screen.SavePanel = CriteriaResultLine(session.Selection);
     screen.UBLlabel = isContinuous ? "Assumed fully braced" : "Unbraced length in ft";
-    screen.HasUnbracedLength = !isContinuous;
+    screen.HasUnbracedLength = !FixedUnbracedLength(problem);
     screen.HasOverhang = problem.Support == SupportCondition::Overhanging;
     screen.UnbracedUnit = screen.HasOverhang ? "ft, backspan" : "ft";
     screen.UBSpan = {

@@ -1,8 +1,10 @@
 #include "design/EntryAdjustment.h"
 
 #include <cstddef>
+#include <string_view>
 
 #include "core/NumberText.h"
+#include "materials/SteelShapes.h"
 
 namespace kordavan {
 
@@ -63,6 +65,20 @@ void MultiplyForSpacing(LoadSet& loads, double factor)
     });
 }
 
+/// Shapes are tested at a number: tubes and plates at none of the person's, a blank at 0.
+void SetUnbracedLengths(BeamProblem& problem, EntriesToRestore& restore)
+{
+    constexpr std::string_view braced = "0";
+    restore.SavedUBLtext = problem.UBLtext;
+    restore.SavedCantUBLtext = problem.CantUBLtext;
+    if (problem.UBLtext.empty() || problem.Family == SteelFamily::Tube || IsPlate(problem.Family)) {
+        problem.UBLtext = braced;
+    }
+    if (problem.CantUBLtext.empty()) {
+        problem.CantUBLtext = braced;
+    }
+}
+
 void DivideForSpacing(LoadSet& loads, RepetitiveSpacing spacing)
 {
     const double factor = SpacingFactor(spacing);
@@ -101,6 +117,9 @@ void AdjustEntries(BeamProblem& problem, float slopeFactor, EntriesToRestore& re
     if (factor != 1) {
         MultiplyForSpacing(loads, factor);
     }
+    if (problem.Combo1 == SpeciesGroup::Steel) {
+        SetUnbracedLengths(problem, restore);
+    }
     restore.LoadsMultipliedFlag = true;
 }
 
@@ -119,6 +138,10 @@ void RestoreEntries(Session& session)
     if (problem.Roofbutton && problem.Support != SupportCondition::HipValley) {
         problem.Loads.UNIF = restore.SavedUniform;
         problem.Loads.PAR = restore.SavedPartial;
+    }
+    if (problem.Combo1 == SpeciesGroup::Steel) {
+        problem.UBLtext = restore.SavedUBLtext;
+        problem.CantUBLtext = restore.SavedCantUBLtext;
     }
     RestoreHipLoads(session);
 }

@@ -1,15 +1,16 @@
 #include "design/LoadingConditions.h"
 
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 #include "core/NumberText.h"
+#include "design/UnbracedEntry.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr std::string_view FullyBraced = "0";
 constexpr std::string_view NoLoadPairs =
     "There are no load pairs to step through. Please enter them by Options, Set Defaults.";
 
@@ -59,7 +60,7 @@ void SwitchSupport(Session& session, SupportCondition support)
     if (problem.Support == support) {
         return;
     }
-    const bool wasContinuous = problem.Support == SupportCondition::MultipleSpans;
+    const bool wasFixed = FixedUnbracedLength(problem).has_value();
     problem.Support = support;
     ForgetAdjustments(session);
     ClearUniformLoad(problem.Loads);
@@ -68,12 +69,14 @@ void SwitchSupport(Session& session, SupportCondition support)
     ClearPartialCalculatorRows(problem.Loads);
     ClearHipLoads(problem.Loads);
     problem.CantUBLtext.clear();
-    if (support == SupportCondition::MultipleSpans) {
-        problem.UBLtext = FullyBraced;
-        problem.CantUBLtext = FullyBraced;
-        problem.ThreeSpan = false;
-    } else if (wasContinuous) {
+    if (const std::optional<std::string_view> fixed = FixedUnbracedLength(problem)) {
+        problem.UBLtext = *fixed;
+    } else if (wasFixed) {
         problem.UBLtext.clear();
+    }
+    if (support == SupportCondition::MultipleSpans) {
+        problem.CantUBLtext = problem.UBLtext;
+        problem.ThreeSpan = false;
     }
     if (support == SupportCondition::HipValley) {
         ClearUniformCalculator(problem.Loads);

@@ -34,6 +34,7 @@ struct MemberEntry {
     std::string DepthText;
     std::string SpeciesText;
     CustomEntry Custom;
+    std::string ShapeName{};  // of a steel member, which has none of the others
 };
 
 /// A member whose texts are known sizes.

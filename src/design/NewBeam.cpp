@@ -91,6 +91,8 @@ void StartNewBeam(Session& session)
     session.IncreasingLiveLoad = 0;
     session.Unbalanced = {};
     session.Restore = {};
+    session.SteelPicks = {};
+    session.Entry.ShapeName.clear();
 }
 
 Outcome OfferNewBeam(Session& session, UserPort& user)

@@ -16,7 +16,7 @@ struct ReportSource {
     const MemberTest& Member;
 };
 
-/// Breadth, depth and species as shown.
+/// Breadth, depth and species of a wood member as shown.
 std::string DisplayChoiceText(const MemberCandidate& member);
 
 /// What the values are modified for, and the spacing.

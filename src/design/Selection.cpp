@@ -3,8 +3,8 @@
 #include <set>
 #include <string>
 
-#include "design/ReportNotes.h"
 #include "design/TestMember.h"
+#include "design/TestReport.h"
 
 namespace kordavan {
 
@@ -74,7 +74,7 @@ void SelectMember(Session& session, CalendarDay today)
 {
     const MemberTestResult& result = session.Member.Result;
     session.Selection =
-        SelectionRecord{.MemberChoice = DisplayChoiceText(session.Member.Candidate),
+        SelectionRecord{.MemberChoice = TestedMemberText(session),
                         .MemberStatus = result.Overall == StatusFail ? "Fails" : std::string(result.Overall),
                         .RecordDate = ShortDate(today)};
 }

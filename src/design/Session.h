@@ -14,6 +14,7 @@
 #include "design/Member.h"
 #include "design/MemberTestResult.h"
 #include "design/SelectionRecord.h"
+#include "design/SteelState.h"
 
 namespace kordavan {
 
@@ -25,6 +26,8 @@ struct EntriesToRestore {
     std::string SavedIncTL;
     std::string SavedIncUnifTL;
     bool HipLoadsGrown = false;  // the hips and valleys tool has grown IncTL and IncUnifTL
+    std::string SavedUBLtext;    // of a steel beam
+    std::string SavedCantUBLtext;
 };
 
 /// Live loads taken out of the entries for a moment, and where they belong.
@@ -65,6 +68,8 @@ struct Session {
 
     bool SoPineLowered = false;  // left by the last test of a #2 Southern Pine
     MemberTest Member;
+    SteelTestState Steel;  // the shape that Member is, where it is of steel
+    SteelSelection SteelPicks;
 
     std::size_t DeflectionLimitsInHand = 2;  // place in the cycle of the adjusting button
     std::optional<LoadSet> Multiplied;       // the loads as the uniform calculator left them

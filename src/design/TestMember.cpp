@@ -10,6 +10,7 @@
 #include "analysis/Shear.h"
 #include "core/NumberText.h"
 #include "design/CustomValues.h"
+#include "design/TestFaults.h"
 #include "design/Verdict.h"
 
 namespace kordavan {
@@ -23,9 +24,6 @@ constexpr std::string_view DatabaseError = "Database search error in calc module
 constexpr std::string_view ZeroValueError = "Calc module, zero value error!";
 constexpr std::string_view MaximumShearError = "Max V Error, LSMR OVERHANG MAX V";
 constexpr std::string_view ReducedShearError = "Error at LSMR, OH MAX Reduction";
-constexpr std::string_view DeflectionError = "Error in deflection calc";
-constexpr std::string_view NotFinite =
-    "The member could not be calculated, because a load, a length or a value is far too large or too small.";
 
 /// What stays the same for the candidate and its next smaller size.
 struct TestCase {
@@ -129,7 +127,7 @@ Outcome DeflectSize(const TestCase& test, const SizeTest& size, UserPort& user, 
     if (IsFinite(deflection)) {
         return Outcome::Done;
     }
-    return Refuse(user, Marked(Refusal(DeflectionError), MessageIcon::Warning));
+    return Refuse(user, DeflectionFault());
 }
 
 bool IsFiniteTest(const SizeTest& size)
@@ -239,7 +237,7 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
         return Outcome::Refused;
     }
     if (!IsFiniteTest(candidate)) {
-        return Refuse(user, Refusal(NotFinite));
+        return Refuse(user, NotFiniteFault());
     }
     const bool nextSmallerOk = TestNextSmaller(test, deflection, user, candidate);
 

@@ -6,6 +6,7 @@
 #include "core/NumberText.h"
 #include "core/SizeText.h"
 #include "design/ReportNotes.h"
+#include "design/SteelTexts.h"
 
 namespace kordavan {
 
@@ -92,6 +93,25 @@ std::string ActualSizeText(const MemberCandidate& member)
     return "Actual Size is  " + size;
 }
 
+void FillWood(const ReportSource& source, TestReport& report)
+{
+    report.GradeLabel = GradeText(source.Beam.Nds);
+    report.Modifiers = ModifiersText(source);
+    report.SmallChoice = SmallChoiceText(source);
+    report.Label5 = ActualSizeText(source.Member.Candidate);
+}
+
+void FillSteel(const Session& session, TestReport& report)
+{
+    const SteelCriteria& criteria = session.SteelPicks.Criteria;
+    report.GradeLabel = SteelGradeText(criteria);
+    report.Modifiers = SteelModifiersText(criteria, session.Steel);
+    report.Label5 = "Actual Size is  ";
+    report.Label5 += session.Steel.ActualSizeBreadth;
+    report.Label5 += " x ";
+    report.Label5 += session.Steel.ActualSizeDepth;
+}
+
 void FillCaptions(TestReport& report)
 {
     report.Label7 = "Section";
@@ -104,6 +124,12 @@ void FillCaptions(TestReport& report)
 
 }  // namespace
 
+std::string TestedMemberText(const Session& session)
+{
+    return session.Numbers.IsSteel() ? std::string(session.Steel.ShapeName)
+                                     : DisplayChoiceText(session.Member.Candidate);
+}
+
 TestReport MakeTestReport(const Session& session)
 {
     const BeamNumbers& beam = session.Numbers;
@@ -111,17 +137,18 @@ TestReport MakeTestReport(const Session& session)
     const ReportSource source{
         .Problem = session.Problem, .Beam = beam, .Analysis = session.Analysis, .Member = member};
     TestReport report;
-    report.DisplayChoice = DisplayChoiceText(member.Candidate);
-    report.GradeLabel = GradeText(beam.Nds);
-    report.Modifiers = ModifiersText(source);
+    report.DisplayChoice = TestedMemberText(session);
+    if (beam.IsSteel()) {
+        FillSteel(session, report);
+    } else {
+        FillWood(source, report);
+    }
     FillStrength(member.Result, report);
     FillDeflections(member.Result, report);
     report.NoSplitLabel = NoSplitText(member.Result);
-    report.SmallChoice = SmallChoiceText(source);
     report.DeadDefl = DeadDeflectionText(source);
     report.DeflTooHigh = LargeDeflectionText(member.Result);
     report.Unbalancedlabel = UnbalancedText(beam);
-    report.Label5 = ActualSizeText(member.Candidate);
     report.Label6 = LiveDeflectionLine(source);
     report.Label10 = ReactionsLine(session.Analysis);
     report.Label11 = TotalDeflectionLine(source);

@@ -108,6 +108,9 @@ inline constexpr std::array TestReportFields{
     TestReportField{"Label15", &TestReport::Label15},
 };
 
+/// The member tested last as shown: breadth, depth and species, or the steel shape.
+std::string TestedMemberText(const Session& session);
+
 /// The report of the member tested last.
 TestReport MakeTestReport(const Session& session);
 

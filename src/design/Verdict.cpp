@@ -20,6 +20,15 @@ bool IsWithin(double deflection, float allowed)
     return std::abs(deflection) <= allowed;
 }
 
+/// @param growth  what each deflection is multiplied by
+bool AreDeflectionsWithin(const DeflectionResult& deflection, double growth)
+{
+    return IsWithin(deflection.TotalDeflIn * growth, deflection.AllowTotalDeflIn) &&
+           IsWithin(deflection.LiveDeflIn * growth, deflection.AllowLiveDeflIn) &&
+           IsWithin(deflection.TipDeflIn * growth, deflection.AllowTipDeflIn) &&
+           IsWithin(deflection.TipLiveDeflIn * growth, deflection.AllowTipLiveDeflIn);
+}
+
 void JudgeDeflections(const BeamNumbers& beam, MemberTestResult& result)
 {
     const bool hasLive = HasLiveLoad(beam.Loads);
@@ -45,9 +54,9 @@ void TryWithoutSplits(const BeamNumbers& beam, MemberTest& member)
     constexpr float baseFv = 90;
     constexpr float Ch = 2;
     MemberTestResult& result = member.Result;
-    const bool isAsked = beam.Nds == Edition::Nds1997 && member.Candidate.BreadthKey != BreadthKey::Glulam &&
-                         result.SecStatus == StatusOk && result.DeflStatus == StatusOk &&
-                         result.ShearStatus == StatusFail;
+    const bool isAsked = !beam.IsSteel() && beam.Nds == Edition::Nds1997 &&
+                         member.Candidate.BreadthKey != BreadthKey::Glulam && result.SecStatus == StatusOk &&
+                         result.DeflStatus == StatusOk && result.ShearStatus == StatusFail;
     if (!isAsked) {
         return;
     }
@@ -115,13 +124,15 @@ void GiveVerdict(const BeamNumbers& beam, MemberTest& member)
     result.Overall = OverallOf(result);
 }
 
+bool MeetsDeflectionLimits(const DeflectionResult& deflection)
+{
+    return AreDeflectionsWithin(deflection, 1);
+}
+
 bool PassesAsSmaller(const SmallerSize& smaller, const DeflectionResult& deflection)
 {
     return smaller.Section >= smaller.SectionReq && smaller.Area >= smaller.AreaReq &&
-           IsWithin(deflection.TotalDeflIn * smaller.Growth, deflection.AllowTotalDeflIn) &&
-           IsWithin(deflection.LiveDeflIn * smaller.Growth, deflection.AllowLiveDeflIn) &&
-           IsWithin(deflection.TipDeflIn * smaller.Growth, deflection.AllowTipDeflIn) &&
-           IsWithin(deflection.TipLiveDeflIn * smaller.Growth, deflection.AllowTipLiveDeflIn);
+           AreDeflectionsWithin(deflection, smaller.Growth);
 }
 
 }  // namespace kordavan

@@ -13,6 +13,9 @@ MemberTestResult ResultOf(const AnalysisResult& analysis, const MemberTest& memb
 /// Under NDS 1997 a sawn member that fails in shear alone may pass when free of splits (Ch of 2).
 void GiveVerdict(const BeamNumbers& beam, MemberTest& member);
 
+/// True when no deflection, in magnitude, is beyond its limit.
+bool MeetsDeflectionLimits(const DeflectionResult& deflection);
+
 /// A next smaller size against what is asked of it.
 struct SmallerSize {
     float Section;  // in3

@@ -1,0 +1,42 @@
+#include "design/UnbracedEntry.h"
+
+#include "design/SteelCriteria.h"
+#include "materials/SteelShapes.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view FullyBraced = "0";
+
+}  // namespace
+
+std::optional<std::string_view> FixedUnbracedLength(const BeamProblem& problem)
+{
+    if (problem.Support == SupportCondition::MultipleSpans) {
+        return FullyBraced;
+    }
+    if (problem.Combo1 != SpeciesGroup::Steel) {
+        return std::nullopt;
+    }
+    if (problem.Family == SteelFamily::Tube) {
+        return AnyUnbracedLength;
+    }
+    return IsPlate(problem.Family) ? std::optional(FullyBraced) : std::nullopt;
+}
+
+void SwitchMaterial(Session& session, SpeciesGroup group, SteelFamily family)
+{
+    BeamProblem& problem = session.Problem;
+    const bool wasFixed = FixedUnbracedLength(problem).has_value();
+    problem.Combo1 = group;
+    problem.Family = family;
+    problem.Incised = problem.Incised && group != SpeciesGroup::Steel;
+    if (const std::optional<std::string_view> fixed = FixedUnbracedLength(problem)) {
+        problem.UBLtext = *fixed;
+    } else if (wasFixed) {
+        problem.UBLtext.clear();
+    }
+}
+
+}  // namespace kordavan

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "design/Session.h"
+
+namespace kordavan {
+
+/// What the unbraced length of the span reads where it is not the person's to enter: "0" on several spans and
+/// for flitch plates, "Any" for tubes. None where it is typed.
+std::optional<std::string_view> FixedUnbracedLength(const BeamProblem& problem);
+
+/// Changes the material group, or the family of steel. The unbraced length becomes what the material fixes it
+/// to, and empty where that ends; steel is never incised.
+void SwitchMaterial(Session& session, SpeciesGroup group, SteelFamily family);
+
+}  // namespace kordavan
