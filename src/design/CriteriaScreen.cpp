@@ -76,6 +76,8 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
     screen.UBLlabel = isContinuous ? "Assumed fully braced" : "Unbraced length in ft";
     screen.HasUnbracedLength = !FixedUnbracedLength(problem);
     screen.HasOverhang = problem.Support == SupportCondition::Overhanging;
+    screen.HasSteel = problem.Combo1 == SpeciesGroup::Steel;
+    screen.HasIncising = !screen.HasSteel;
     screen.UnbracedUnit = screen.HasOverhang ? "ft, backspan" : "ft";
     screen.UBSpan = {
         .Caption = unbalanced.Span ? UnbalanceCaptions::RestoreSpan : UnbalanceCaptions::UnbalanceSpan,

@@ -27,6 +27,8 @@ struct CriteriaScreen {
     std::string_view UnbracedUnit;  // of an overhanging beam with the part that it stands for
     bool HasUnbracedLength = true;  // the box may be typed in
     bool HasOverhang = false;
+    bool HasSteel = false;    // family and grade are chosen
+    bool HasIncising = true;  // lumber that may be incised
     UnbalanceButton UBSpan;
     UnbalanceButton UBOH;
     LoadTables Tables = LoadTables::PointAndPartial;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string_view>
 
@@ -21,6 +22,10 @@ struct SteelAllowables {
 };
 
 SteelAllowables AllowablesOf(SteelFamily family, bool ksi50);
+
+/// The greatest nominal depths to choose from, in.
+inline constexpr std::array<std::string_view, 11> SteelDepthChoices{"All", "4",  "5",  "6",  "8", "10",
+                                                                    "12",  "14", "16", "18", "20"};
 
 /// What all shapes of one selection are held to.
 struct SteelCriteria {

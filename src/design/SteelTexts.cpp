@@ -87,6 +87,15 @@ SteelSelectionTexts MakeSteelSelectionTexts(const Session& session)
             .StlPanel = BracingNote(picks.Criteria, session.Problem)};
 }
 
+std::string DescribeSlot(const SteelSlot& slot)
+{
+    std::string text(slot.StlDepLab);
+    text += " in. deep, ";
+    text += slot.StlWidLab;
+    return text + " in. wide, unbraced " + slot.UBLlab + ", section " + slot.StlSecPerct + ", shear " +
+           slot.StlShearPerct;
+}
+
 std::vector<std::string_view> SteelDatabase(SteelFamily family)
 {
     std::vector<std::string_view> names;

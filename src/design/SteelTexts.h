@@ -22,6 +22,9 @@ struct SteelSelectionTexts {
 
 SteelSelectionTexts MakeSteelSelectionTexts(const Session& session);
 
+/// The figures of a candidate in words, for those who do not see its line.
+std::string DescribeSlot(const SteelSlot& slot);
+
 /// The names of the family that have a section, for the list of the database.
 std::vector<std::string_view> SteelDatabase(SteelFamily family);
 

@@ -5,12 +5,6 @@
 
 namespace kordavan {
 
-namespace {
-
-constexpr std::string_view FullyBraced = "0";
-
-}  // namespace
-
 std::optional<std::string_view> FixedUnbracedLength(const BeamProblem& problem)
 {
     if (problem.Support == SupportCondition::MultipleSpans) {

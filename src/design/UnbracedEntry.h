@@ -7,6 +7,9 @@
 
 namespace kordavan {
 
+/// An unbraced length that is fixed because the compression edge is held all along.
+inline constexpr std::string_view FullyBraced = "0";
+
 /// What the unbraced length of the span reads where it is not the person's to enter: "0" on several spans and
 /// for flitch plates, "Any" for tubes. None where it is typed.
 std::optional<std::string_view> FixedUnbracedLength(const BeamProblem& problem);

@@ -1,6 +1,7 @@
 #include "forms/Bindings.h"
 
 #include <QButtonGroup>
+#include <QComboBox>
 #include <QSignalBlocker>
 
 #include "forms/Kit.h"
@@ -33,6 +34,21 @@ void Bindings::Bind(QAbstractButton& check, bool& flag)
         Q_EMIT Edited(check.objectName());
     });
     shows.emplace_back([&check, &flag] { check.setChecked(flag); });
+}
+
+void Bindings::Bind(QComboBox& list, std::string& text)
+{
+    connect(&list, &QComboBox::activated, this, [this, &list, &text] {
+        text = Text(list.currentText());
+        Q_EMIT Edited(list.objectName());
+    });
+    shows.emplace_back([&list, &text] {
+        const QString shown = Text(text);
+        if (list.findText(shown) < 0) {
+            list.addItem(shown);
+        }
+        list.setCurrentText(shown);
+    });
 }
 
 void Bindings::Show() const

@@ -23,6 +23,9 @@ public:
     void Bind(NumericBox& box, std::string& text);
     void Bind(QAbstractButton& check, bool& flag);
 
+    /// A list of texts; one that the model holds beside them joins the list.
+    void Bind(QComboBox& list, std::string& text);
+
     /// An option that stands for one value of a choice.
     template <typename Choice>
     void BindOption(QAbstractButton& option, Choice& choice, Choice value)

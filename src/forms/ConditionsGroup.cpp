@@ -45,8 +45,9 @@ ConditionsGroup::ConditionsGroup(const GroupContext& context)
     Grid().setColumnStretch(ServiceColumn, 1);
 }
 
-void ConditionsGroup::ShowEnabled(const BeamProblem& problem)
+void ConditionsGroup::ShowScreen(const CriteriaScreen& screen, const BeamProblem& problem)
 {
+    incised->setVisible(screen.HasIncising);
     for (QRadioButton* const spacing : spacings) {
         spacing->setEnabled(problem.Rep);
     }
@@ -88,9 +89,10 @@ void ConditionsGroup::AddService(BeamProblem& problem)
     add(AddCheck({.Name = "Wet", .Tip = "Moisture content above 19% of sawn lumber, 16% of glu-lams"},
                  " &Wet Use", problem.Wet),
         AddHelp("Command3D7", {"Wet", "Incised"}));
-    add(AddCheck({.Name = "Incised", .Tip = "Lumber incised for preservative treatment"}, "I&ncised",
-                 problem.Incised),
-        nullptr);
+    incised = AddCheck({.Name = "Incised", .Tip = "Lumber incised for preservative treatment"}, "I&ncised",
+                       problem.Incised);
+    KeepPlace(*incised);
+    add(incised, nullptr);
     add(AddCheck({.Name = "Reducechk", .Tip = "Shear is taken at the depth of the member from its supports"},
                  "R&educe shear loads at beam ends", problem.Reducechk),
         AddHelp("Command3D18", {"Reducechk"}));

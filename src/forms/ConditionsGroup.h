@@ -14,8 +14,8 @@ class ConditionsGroup : public EntryGroup {
 public:
     explicit ConditionsGroup(const GroupContext& context);
 
-    /// Spacing and pitch can be entered while their checks are on.
-    void ShowEnabled(const BeamProblem& problem);
+    /// Spacing and pitch can be entered while their checks are on, incising where the material has it.
+    void ShowScreen(const CriteriaScreen& screen, const BeamProblem& problem);
 
 private:
     void AddRepetitive(BeamProblem& problem);
@@ -23,6 +23,7 @@ private:
     void AddPitch(BeamProblem& problem);
 
     std::array<QRadioButton*, 5> spacings{};
+    QCheckBox* incised = nullptr;
     NumericBox* pitch = nullptr;
 };
 

@@ -16,6 +16,8 @@
 #include "design/EntryAdjustment.h"
 #include "design/LoadPicture.h"
 #include "design/NewBeam.h"
+#include "design/SteelSelection.h"
+#include "design/UnbracedEntry.h"
 #include "forms/ConditionsGroup.h"
 #include "forms/Form4.h"
 #include "forms/HipValleyGroup.h"
@@ -24,6 +26,7 @@
 #include "forms/PartialLoadGroup.h"
 #include "forms/PointLoadGroup.h"
 #include "forms/SpanGroup.h"
+#include "forms/SteelGroup.h"
 #include "forms/SupportGroup.h"
 #include "forms/UniformLoadGroup.h"
 #include "records/CriteriaFile.h"
@@ -45,6 +48,7 @@ constexpr std::array MaterialsOffered{
     SpeciesGroup::SprucePineFir,
     SpeciesGroup::SouthernPine,
     SpeciesGroup::Oak,
+    SpeciesGroup::Steel,
 };
 
 constexpr std::string_view Page =
@@ -88,10 +92,9 @@ Form1::Form1(Walk& walk)
               .Beam = walk.CurrentSession(),
               .Apply = [this](const SessionChange& change) { return Apply(change); }}
 {
-    sketch = new LoadSketch;
     Body().addLayout(MakeHead());
     Body().addLayout(MakeCriteria());
-    Body().addWidget(sketch, 1);
+    Body().addLayout(MakeSketch(), 1);
     Body().addLayout(MakeLoads());
     MakeFoot();
     MakeMenus();
@@ -146,13 +149,7 @@ QLayout* Form1::MakeHead()
         material->addItem(Text(SpeciesGroups[static_cast<std::size_t>(group)].Text), static_cast<int>(group));
     }
     connect(material, &QComboBox::activated, this, [this](int index) {
-        const auto group = static_cast<SpeciesGroup>(material->itemData(index).toInt());
-        Apply([group](Session& session, UserPort& user) {
-            return ChangeEntries(session, user, [group](Session& changed, UserPort& /*user*/) {
-                changed.Problem.Combo1 = group;
-                return Outcome::Done;
-            });
-        });
+        ChooseMaterial(static_cast<SpeciesGroup>(material->itemData(index).toInt()));
     });
     head->addWidget(MakeCaption("&Material", *material));
     head->addWidget(material);
@@ -168,6 +165,16 @@ QLayout* Form1::MakeCriteria()
     row->addWidget(supportGroup);
     row->addWidget(spanGroup);
     row->addWidget(conditionsGroup, 1);
+    return row;
+}
+
+QLayout* Form1::MakeSketch()
+{
+    auto* const row = new QHBoxLayout;
+    steelGroup = new SteelGroup(context);
+    sketch = new LoadSketch;
+    row->addWidget(steelGroup);
+    row->addWidget(sketch, 1);
     return row;
 }
 
@@ -270,8 +277,9 @@ void Form1::OrderTabs()
     for (const char* const name : {"Proj", "ID", "Descrip"}) {
         order.push_back(findChild<QLineEdit*>(QLatin1String(name)));
     }
-    order.insert(order.end(), {material, supportGroup, spanGroup, conditionsGroup, sketch, uniformGroup,
-                               pointGroup, partialCalculator, partialGroup, hipGroup, multiGroup, calculate});
+    order.insert(order.end(),
+                 {material, supportGroup, spanGroup, conditionsGroup, steelGroup, sketch, uniformGroup,
+                  pointGroup, partialCalculator, partialGroup, hipGroup, multiGroup, calculate});
     ChainTabStops(order);
 }
 
@@ -300,7 +308,8 @@ void Form1::Refresh()
     setWindowTitle(Text(screen.Title));
     material->setCurrentIndex(material->findData(static_cast<int>(session.Problem.Combo1)));
     spanGroup->ShowScreen(screen);
-    conditionsGroup->ShowEnabled(session.Problem);
+    conditionsGroup->ShowScreen(screen, session.Problem);
+    steelGroup->setVisible(screen.HasSteel);
     uniformGroup->ShowScreen(screen);
     pointGroup->ShowScreen(screen);
     partialGroup->ShowScreen(screen);
@@ -373,6 +382,16 @@ void Form1::OpenExplorer()
     }
 }
 
+void Form1::ChooseMaterial(SpeciesGroup group)
+{
+    Apply([group](Session& session, UserPort& user) {
+        return ChangeEntries(session, user, [group](Session& changed, UserPort& /*user*/) {
+            SwitchMaterial(changed, group, changed.Problem.Family);
+            return Outcome::Done;
+        });
+    });
+}
+
 void Form1::Calculate()
 {
     if (material->currentIndex() < 0) {
@@ -383,7 +402,7 @@ void Form1::Calculate()
     try {
         if (CalculateAction(TheSession(), User(), progress) == Outcome::Done) {
             ++TheWalk().AnalysisCount;
-            TheWalk().Go(Screen::WoodSelection);
+            OpenSelection();
         } else {
             Refresh();
         }
@@ -391,6 +410,16 @@ void Form1::Calculate()
         TellFault(fault.what(), User());
     }
     gauge->hide();
+}
+
+/// A steel beam whose shears cannot be compared stays here.
+void Form1::OpenSelection()
+{
+    if (TheSession().Numbers.IsSteel() && OpenSteelSelection(TheSession(), User()) != Outcome::Done) {
+        Activate();
+        return;
+    }
+    TheWalk().Go(TheWalk().SelectionScreen());
 }
 
 }  // namespace kordavan

@@ -22,6 +22,7 @@ class PartialCalculator;
 class PartialLoadGroup;
 class PointLoadGroup;
 class SpanGroup;
+class SteelGroup;
 class SupportGroup;
 class UniformLoadGroup;
 
@@ -42,6 +43,7 @@ private:
     QLayout* MakeHead();
     QLayout* MakeCriteria();
     QLayout* MakeLoads();
+    QLayout* MakeSketch();
     QWidget* MakePointAndPartialPage();
     void MakeFoot();
     void MakeMenus();
@@ -59,7 +61,9 @@ private:
     void MakeFileMenu();
     void ShowRecentFiles();
     void OpenExplorer();
+    void ChooseMaterial(SpeciesGroup group);
     void Calculate();
+    void OpenSelection();
 
     Bindings bindings;
     NumericBoxContext numbers;
@@ -68,6 +72,7 @@ private:
     SupportGroup* supportGroup = nullptr;
     SpanGroup* spanGroup = nullptr;
     ConditionsGroup* conditionsGroup = nullptr;
+    SteelGroup* steelGroup = nullptr;
     LoadSketch* sketch = nullptr;
     UniformLoadGroup* uniformGroup = nullptr;
     QStackedWidget* tables = nullptr;

@@ -8,8 +8,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <optional>
 
 #include "design/NewBeam.h"
 #include "design/ReportNotes.h"
@@ -19,6 +17,7 @@
 #include "forms/SectionSketch.h"
 #include "forms/StatusColor.h"
 #include "forms/StatusSign.h"
+#include "forms/StepButtons.h"
 
 namespace kordavan {
 
@@ -29,45 +28,9 @@ constexpr std::string_view Page =
     "The report shows what the loads ask of the member and what it has. OK means that it passes, Fail that "
     "it does not.\n\n"
     "The buttons at the bottom step to the next size without going back: + and - step the depth, with Ctrl "
-    "the breadth. The rows keep their places, so that sizes can be compared.\n\n"
+    "the breadth, and from steel shape to shape. The rows keep their places, so that sizes can be "
+    "compared.\n\n"
     "OK  Select Member, or Enter, puts the member on record. Esc leads back to the selection.";
-
-constexpr std::array AllSteps{SizeStep::DepthDown, SizeStep::DepthUp, SizeStep::BreadthDown,
-                              SizeStep::BreadthUp};
-static_assert(AllSteps.size() == SizeStepCount);
-
-SizeStep Opposite(SizeStep step)
-{
-    switch (step) {
-        case SizeStep::DepthUp:
-            return SizeStep::DepthDown;
-        case SizeStep::DepthDown:
-            return SizeStep::DepthUp;
-        case SizeStep::BreadthUp:
-            return SizeStep::BreadthDown;
-        case SizeStep::BreadthDown:
-            break;
-    }
-    return SizeStep::BreadthUp;
-}
-
-/// Plus also without Shift, where it shares its key with the equals sign.
-std::optional<SizeStep> StepOf(const QKeyEvent& event)
-{
-    if (event.modifiers().testFlag(Qt::AltModifier)) {
-        return std::nullopt;
-    }
-    const bool ofBreadth = event.modifiers().testFlag(Qt::ControlModifier);
-    switch (event.key()) {
-        case Qt::Key_Plus:
-        case Qt::Key_Equal:
-            return ofBreadth ? SizeStep::BreadthUp : SizeStep::DepthUp;
-        case Qt::Key_Minus:
-            return ofBreadth ? SizeStep::BreadthDown : SizeStep::DepthDown;
-        default:
-            return std::nullopt;
-    }
-}
 
 void Enlarge(QLabel& label)
 {
@@ -132,16 +95,14 @@ QAbstractButton* Form5::DefaultCommand()
 
 void Form5::GoBack()
 {
-    TheWalk().Go(Screen::WoodSelection);
+    TheWalk().Go(TheWalk().SelectionScreen());
 }
 
 void Form5::keyPressEvent(QKeyEvent* event)
 {
-    if (const std::optional<SizeStep> step = StepOf(*event)) {
-        OnStep(*step);
-        return;
+    if (!stepping->Press(*event)) {
+        Form::keyPressEvent(event);
     }
-    Form::keyPressEvent(event);
 }
 
 /// The colours of statuses are worked out from the palette.
@@ -208,25 +169,10 @@ void Form5::AddNote(NoteLine* note)
 
 void Form5::BuildStepping()
 {
-    ButtonOf(SizeStep::DepthDown) =
-        MakeButton({.Name = "CmdNextSizeDn", .Tip = "Next smaller depth (-)"}, "&Depth -");
-    ButtonOf(SizeStep::DepthUp) =
-        MakeButton({.Name = "CmdNextSize", .Tip = "Next larger depth (+)"}, "D&epth +");
-    ButtonOf(SizeStep::BreadthDown) =
-        MakeButton({.Name = "CmdNextWidthDn", .Tip = "Next smaller breadth (Ctrl -)"}, "B&readth -");
-    ButtonOf(SizeStep::BreadthUp) =
-        MakeButton({.Name = "CmdNextWidth", .Tip = "Next larger breadth (Ctrl +)"}, "Bre&adth +");
-    auto* const line = new QHBoxLayout;
-    for (const SizeStep step : AllSteps) {
-        QPushButton* const button = ButtonOf(step);
-        connect(button, &QPushButton::clicked, this, [this, step] { OnStep(step); });
-        line->addWidget(button);
-        if (step == SizeStep::DepthUp) {
-            line->addSpacing(DigitsWidth(*this, 4));
-        }
-    }
-    line->addStretch(1);
-    Body().addLayout(line);
+    stepping = new StepButtons;
+    connect(stepping, &StepButtons::SizeAsked, this, &Form5::OnSizeStep);
+    connect(stepping, &StepButtons::ShapeAsked, this, &Form5::OnShapeStep);
+    Body().addWidget(stepping);
 }
 
 void Form5::BuildFoot()
@@ -272,12 +218,12 @@ void Form5::ShowReport()
         fields[index]->setText(Text(report.*TestReportFields[index].Text));
     }
     table->Show(report);
-    sketch->Show(ReadSectionPicture(TheSession().Member.Candidate));
+    sketch->Show(ReadSectionPicture(TheSession()));
     for (NoteLine* const note : notes) {
         note->Show();
     }
     ShowOverall();
-    ShowStepping();
+    stepping->Show(TheSession(), *selectButton);
 }
 
 void Form5::ShowOverall()
@@ -290,25 +236,24 @@ void Form5::ShowOverall()
     overallSign->Show(fails ? Sign::Fails : passes);
 }
 
-/// A button that is switched off hands its focus to its twin.
-void Form5::ShowStepping()
-{
-    const QWidget* const focused = focusWidget();
-    for (const SizeStep step : AllSteps) {
-        ButtonOf(step)->setEnabled(NextEntry(TheSession(), step).has_value());
-    }
-    for (const SizeStep step : AllSteps) {
-        if (focused != nullptr && focused == ButtonOf(step) && !focused->isEnabled()) {
-            QPushButton* const twin = ButtonOf(Opposite(step));
-            (twin->isEnabled() ? twin : selectButton)->setFocus(Qt::OtherFocusReason);
-        }
-    }
-}
-
-void Form5::OnStep(SizeStep step)
+void Form5::OnSizeStep(SizeStep step)
 {
     if (StepMember(TheSession(), step, User()) == Outcome::Done) {
         ShowReport();
+    }
+}
+
+void Form5::OnShapeStep(SteelStep step)
+{
+    switch (StepShape(TheSession(), step, User())) {
+        case SteelTestEnd::Done:
+            ShowReport();
+            break;
+        case SteelTestEnd::BackToCriteria:
+            TheWalk().Go(Screen::Criteria);
+            break;
+        case SteelTestEnd::Refused:
+            break;
     }
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "design/Selection.h"
+#include "design/SteelSelection.h"
 #include "design/TestReport.h"
 #include "forms/Form.h"
 
@@ -16,8 +17,7 @@ class NoteLine;
 class ReportTable;
 class SectionSketch;
 class StatusSign;
-
-inline constexpr std::size_t SizeStepCount = 4;
+class StepButtons;
 
 /// The report of the member tested last, from which its size can be stepped up and down.
 class Form5 : public Form {
@@ -46,18 +46,16 @@ private:
 
     void ShowReport();
     void ShowOverall();
-    void ShowStepping();
-    void OnStep(SizeStep step);
+    void OnSizeStep(SizeStep step);
+    void OnShapeStep(SteelStep step);
     void OnNewBeam();
     void OnSelectMember();
 
-    QPushButton*& ButtonOf(SizeStep step) { return stepButtons[static_cast<std::size_t>(step)]; }
-
     std::array<QLabel*, TestReportFields.size()> fields{};
-    std::array<QPushButton*, SizeStepCount> stepButtons{};
     std::vector<NoteLine*> notes;
     ReportTable* table = nullptr;
     SectionSketch* sketch = nullptr;
+    StepButtons* stepping = nullptr;
     StatusSign* overallSign = nullptr;
     QLabel* overall = nullptr;
     QPushButton* selectButton = nullptr;

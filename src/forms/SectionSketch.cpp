@@ -1,6 +1,7 @@
 #include "forms/SectionSketch.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 
 #include "forms/BeamPainter.h"
@@ -17,6 +18,39 @@ void DrawDimension(QPainter& painter, QPointF from, QPointF to, double tick)
     painter.drawLine(from, to);
     painter.drawLine(from - across, from + across);
     painter.drawLine(to - across, to + across);
+}
+
+/// The outline of rolled steel without the rounding of its corners.
+QPainterPath SteelPath(const SectionPicture& picture, const QRectF& section)
+{
+    const double perInch = section.height() / picture.D;
+    const double web = picture.Web * perInch;
+    const double flange = picture.Flange * perInch;
+    const QRectF inside = section.adjusted(0, flange, 0, -flange);
+    QPainterPath whole;
+    whole.addRect(section);
+    QPainterPath hollow;
+    switch (picture.Outline) {
+        case SectionOutline::Flanged:
+            hollow.addRect(inside.adjusted(0, 0, -(section.width() + web) / 2, 0));
+            hollow.addRect(inside.adjusted((section.width() + web) / 2, 0, 0, 0));
+            break;
+        case SectionOutline::Channel:
+            hollow.addRect(inside.adjusted(web, 0, 0, 0));
+            break;
+        case SectionOutline::Tube:
+            hollow.addRect(inside.adjusted(web, 0, -web, 0));
+            break;
+        case SectionOutline::Plates:
+            if (picture.PlyCount > 1) {
+                hollow.addRect(section.adjusted(web, 0, -web, 0));
+            }
+            break;
+        case SectionOutline::Rectangle:
+        case SectionOutline::Round:
+            break;
+    }
+    return whole.subtracted(hollow);
 }
 
 }  // namespace
@@ -70,15 +104,24 @@ void SectionSketch::paintEvent(QPaintEvent* /*event*/)
 
 void SectionSketch::DrawSection(QPainter& painter, const SketchColors& colors, const QRectF& section) const
 {
+    const bool isSteel = picture.Web > 0;
     constexpr float tintOfWood = 0.2F;
-    QColor tint = colors.Load;
-    tint.setAlphaF(tintOfWood);
+    constexpr float tintOfSteel = 0.6F;
+    QColor tint = isSteel ? colors.Line : colors.Load;
+    tint.setAlphaF(isSteel ? tintOfSteel : tintOfWood);
     painter.setBrush(tint);
-    painter.setPen(QPen(colors.Line, 2));
-    if (picture.IsRound) {
+    painter.setPen(QPen(colors.Line, isSteel ? 1 : 2));
+    if (isSteel) {
+        painter.drawPath(SteelPath(picture, section));
+    } else if (picture.Outline == SectionOutline::Round) {
         painter.drawEllipse(section);
-        return;
+    } else {
+        DrawRectangle(painter, colors, section);
     }
+}
+
+void SectionSketch::DrawRectangle(QPainter& painter, const SketchColors& colors, const QRectF& section) const
+{
     painter.drawRect(section);
     const double ply = section.width() / picture.PlyCount;
     for (int joint = 1; joint < picture.PlyCount; ++joint) {
@@ -107,7 +150,7 @@ void SectionSketch::DrawSizes(QPainter& painter, const SketchColors& colors, con
     DrawDimension(painter, {left, section.top()}, {left, section.bottom()}, tick);
     painter.drawText(QRectF(0, section.center().y() - line / 2, left - tick - 2, line),
                      Qt::AlignRight | Qt::AlignVCenter, Text(picture.DText));
-    if (!picture.IsRound) {
+    if (picture.Outline != SectionOutline::Round && !picture.BText.empty()) {
         DrawDimension(painter, {section.left(), below}, {section.right(), below}, tick);
         painter.drawText(QRectF(0, below + tick, width(), line), Qt::AlignCenter, Text(picture.BText));
     }

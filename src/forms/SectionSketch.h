@@ -28,6 +28,7 @@ protected:
 private:
     QRectF SectionArea() const;
     void DrawSection(QPainter& painter, const SketchColors& colors, const QRectF& section) const;
+    void DrawRectangle(QPainter& painter, const SketchColors& colors, const QRectF& section) const;
     void DrawSizes(QPainter& painter, const SketchColors& colors, const QRectF& section) const;
 
     SectionPicture picture;

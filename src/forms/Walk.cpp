@@ -8,6 +8,7 @@
 #include "forms/Form1.h"
 #include "forms/Form13.h"
 #include "forms/Form21.h"
+#include "forms/Form22.h"
 #include "forms/Form25.h"
 #include "forms/Form3.h"
 #include "forms/Form5.h"
@@ -63,6 +64,8 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form1>(*this);
         case Screen::WoodSelection:
             return std::make_unique<Form3>(*this);
+        case Screen::SteelSelection:
+            return std::make_unique<Form22>(*this);
         case Screen::TestReport:
             return std::make_unique<Form5>(*this);
         case Screen::Settings:
@@ -89,6 +92,11 @@ Form& Walk::FormOf(Screen screen)
         form->FitToScreen();
     }
     return *form;
+}
+
+Screen Walk::SelectionScreen() const
+{
+    return session.Numbers.IsSteel() ? Screen::SteelSelection : Screen::WoodSelection;
 }
 
 void Walk::Go(Screen screen)

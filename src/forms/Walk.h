@@ -20,6 +20,7 @@ class Form;
 enum class Screen {
     Criteria,
     WoodSelection,
+    SteelSelection,
     TestReport,
     Settings,
     Notes,
@@ -67,6 +68,9 @@ public:
 
     /// The form of a screen, made if need be.
     Form& FormOf(Screen screen);
+
+    /// The selection of the material that the last calculation was for.
+    Screen SelectionScreen() const;
 
     /// Shows a screen and hides the one in front. It is activated: filled again and centred.
     void Go(Screen screen);

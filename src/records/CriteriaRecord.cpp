@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -13,6 +14,7 @@
 #include "core/NumberText.h"
 #include "design/EntryAdjustment.h"
 #include "design/LoadTools.h"
+#include "design/UnbracedEntry.h"
 #include "records/CriteriaLayout.h"
 
 namespace kordavan {
@@ -282,13 +284,14 @@ bool IsHeld(std::string_view name, CriteriaGeneration generation)
 /// Entries that hang on others, whatever the file says.
 void SettleEntries(const PackedRecord& record, BeamProblem& problem)
 {
-    constexpr std::string_view fullyBraced = "0";
     if (record.Flag("Multibutton")) {
         problem.Support = SupportCondition::MultipleSpans;
-        problem.UBLtext = fullyBraced;
-        problem.CantUBLtext = fullyBraced;
+        problem.CantUBLtext = FullyBraced;
     } else if (problem.Support != SupportCondition::Overhanging) {
         problem.CantUBLtext.clear();
+    }
+    if (const std::optional<std::string_view> fixed = FixedUnbracedLength(problem)) {
+        problem.UBLtext = *fixed;
     }
     if (!problem.Rep) {
         problem.Spacing = RepetitiveSpacing::None;
@@ -328,6 +331,7 @@ void WriteMember(const Session& session, CalendarDay today, PackedRecord& record
     record.SetText("ChoiceBreadth", session.Entry.BreadthText);
     record.SetText("ChoiceDepth", session.Entry.DepthText);
     record.SetText("ChoiceSpecies", session.Entry.SpeciesText);
+    record.SetText("SteelChoice", session.Entry.ShapeName);
 }
 
 /// The boxes of the custom screen, each at the place of its own name.
@@ -425,6 +429,7 @@ Outcome RestoreCriteria(const PackedRecord& record, Session& session, UserPort& 
         session.Entry.BreadthText = record.Text("ChoiceBreadth");
         session.Entry.DepthText = record.Text("ChoiceDepth");
         session.Entry.SpeciesText = record.Text("ChoiceSpecies");
+        session.Entry.ShapeName = record.Text("SteelChoice");
     }
     RestoreIncreasingLoads(session);
     session.KeptProblem = session.Problem;

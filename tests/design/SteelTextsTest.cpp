@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 
+#include "design/SectionPicture.h"
 #include "design/SteelBuilder.h"
 #include "design/TestReport.h"
 #include "support/CaseName.h"
@@ -194,6 +195,34 @@ TEST(SteelReport, TellsHowTheShapeMustBeBraced)
     EXPECT_EQ(modifiers(SteelFamily::DoublePlate, "(2) PL 9x 5/8"), "Full lateral bracing required.");
     EXPECT_EQ(modifiers(SteelFamily::C, "C 8x 11.5"), "Maximum Unbraced Length: Lu = 5.1 ft");
 }
+
+struct SketchCase {
+    SteelFamily Family;
+    std::string_view Shape;
+    std::string_view Words;
+};
+
+class SteelSketchTest : public testing::TestWithParam<SketchCase> {};
+
+TEST_P(SteelSketchTest, TellsTheSection)
+{
+    Session session = SteelSession(GetParam().Family, "6", "100", "60");
+    TestedShape(session, GetParam().Shape);
+    EXPECT_EQ(DescribeSection(ReadSectionPicture(session)), GetParam().Words);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Shapes, SteelSketchTest,
+    testing::Values(SketchCase{SteelFamily::W, "W 8x 18",
+                               "Flanged section, 5-1/4 in. broad and 8-1/8 in. deep, web 0.23 in., flanges "
+                               "0.33 in."},
+                    SketchCase{SteelFamily::C, "C 8x 11.5",
+                               "Channel, 2-1/4 in. broad and 8 in. deep, web 0.22 in., flanges 0.39 in."},
+                    SketchCase{SteelFamily::Tube, "T 8x 6x 1/4",
+                               "Rectangular tube, 6 in. broad and 8 in. deep, wall 0.25 in."},
+                    SketchCase{SteelFamily::Plate, "PL 9x 5/8", "Plate, 5/8 in. broad and 9 in. deep."},
+                    SketchCase{SteelFamily::DoublePlate, "(2) PL 9x 5/8",
+                               "Plate, 9 in. deep, 2 plates of 5/8 in."}));
 
 }  // namespace
 }  // namespace kordavan

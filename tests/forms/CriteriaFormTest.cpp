@@ -342,8 +342,8 @@ TEST_F(CriteriaFormTest, EveryHelpButtonTellsItsText)
         }
         user.Told.clear();
     }
-    EXPECT_EQ(helps.size(), 17);
-    EXPECT_EQ(told, 14U);
+    EXPECT_EQ(helps.size(), 18);
+    EXPECT_EQ(told, 15U);
 }
 
 TEST_F(CriteriaFormTest, HelpOfTheBoxInFocusComesByKey)
@@ -363,7 +363,7 @@ TEST_F(CriteriaFormTest, OffersTheMaterialsThatHaveAScreen)
     Key(Qt::Key_Down);
     EXPECT_EQ(session.Problem.Combo1, SpeciesGroup::CedarWesternWoods);
     EXPECT_EQ(LabelText("SavePanel"), "   Selection:  None");
-    EXPECT_EQ(material.count(), 7);
+    EXPECT_EQ(material.count(), 8);
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ RecordBytes FilledCriteria(int tag)
     bytes.Text(574, "4x  10 DF-L #2").Text(674, "Fails").Text(682, "1/02/26");
     bytes.Float(694, 2.25F).On(698).On(702);
     bytes.Text(704, "first note").Text(1214, "last note");
-    bytes.Text(1303, "4x").Text(1323, "10").Text(1343, "DF-L #2");
+    bytes.Text(1303, "4x").Text(1323, "10").Text(1343, "DF-L #2").Text(1383, "W 8x 18");
     return bytes.On(1595).On(1605).On(1607);
 }
 
@@ -104,6 +104,7 @@ Session FilledSession()
     session.Selection = SelectionRecord{"4x  10 DF-L #2", "Fails", "1/02/26"};
     session.NoteClipboard = {"first note", "", "", "", "", "", "last note"};
     session.Entry = Member("4x", "10", "DF-L #2");
+    session.Entry.ShapeName = "W 8x 18";
     return session;
 }
 
@@ -238,6 +239,7 @@ TEST_P(GenerationTest, LeavesWhatItDoesNotHold)
     EXPECT_EQ(session.Entry.BreadthText, c.HoldsChoice ? "4x" : "6x");
     EXPECT_EQ(session.Entry.DepthText, c.HoldsChoice ? "10" : "12");
     EXPECT_EQ(session.Entry.SpeciesText, c.HoldsChoice ? "DF-L #2" : "Hem-Fir #1");
+    EXPECT_EQ(session.Entry.ShapeName, c.HoldsChoice ? "W 8x 18" : "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Tags, GenerationTest,
@@ -392,6 +394,7 @@ struct FamilyCase {
     std::string_view Name;
     std::size_t Offset;
     SteelFamily Family;
+    std::string_view UBLtext = "6";  // of a steel beam whose record says 6 ft
 };
 
 class SteelFamilyTest : public testing::TestWithParam<FamilyCase> {};
@@ -400,19 +403,23 @@ TEST_P(SteelFamilyTest, HasItsFlag)
 {
     const FamilyCase& c = GetParam();
     EXPECT_EQ(Restored(BlankCriteria(-11).On(c.Offset).All()).Problem.Family, c.Family);
+    const RecordBytes steel = BlankCriteria(-2007).Short(104, 9).Float(556, 6).On(c.Offset);
+    EXPECT_EQ(Restored(steel.All()).Problem.UBLtext, c.UBLtext);
     Session session;
     session.Problem.Family = c.Family;
     EXPECT_EQ(MakeCriteriaRecord(session, Day).Record.Bytes().substr(560, 14),
               RecordBytes(1613).On(c.Offset).All().substr(560, 14));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Flags, SteelFamilyTest,
-    testing::Values(FamilyCase{"W", 560, SteelFamily::W}, FamilyCase{"S", 562, SteelFamily::S},
-                    FamilyCase{"C", 564, SteelFamily::C}, FamilyCase{"MC", 566, SteelFamily::MC},
-                    FamilyCase{"tube", 568, SteelFamily::Tube}, FamilyCase{"plate", 570, SteelFamily::Plate},
-                    FamilyCase{"double plate", 572, SteelFamily::DoublePlate}),
-    CaseName);
+INSTANTIATE_TEST_SUITE_P(Flags, SteelFamilyTest,
+                         testing::Values(FamilyCase{"W", 560, SteelFamily::W},
+                                         FamilyCase{"S", 562, SteelFamily::S},
+                                         FamilyCase{"C", 564, SteelFamily::C},
+                                         FamilyCase{"MC", 566, SteelFamily::MC},
+                                         FamilyCase{"tube", 568, SteelFamily::Tube, "Any"},
+                                         FamilyCase{"plate", 570, SteelFamily::Plate, "0"},
+                                         FamilyCase{"double plate", 572, SteelFamily::DoublePlate, "0"}),
+                         CaseName);
 
 struct EditionCase {
     std::string_view Year;
@@ -746,6 +753,7 @@ INSTANTIATE_TEST_SUITE_P(
                                   [](BeamProblem& p) {
                                       p.Combo1 = SpeciesGroup::Steel;
                                       p.Family = SteelFamily::DoublePlate;
+                                      p.UBLtext = "0";
                                       p.ksi50 = false;
                                   }},
                     RoundTripCase{"every box",
