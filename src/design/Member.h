@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -9,7 +10,7 @@
 
 namespace kordavan {
 
-/// Values and options of the user's own, as entered.
+/// Values and options of the user's own, as entered; those of an SCL product are among them.
 struct CustomEntry {
     std::string Fb;      // psi
     std::string Fv;      // psi
@@ -25,7 +26,8 @@ struct CustomEntry {
     bool MSRCheckbox = false;      // machine stress rated lumber
     bool MELCheckbox = false;      // machine evaluated lumber
     bool Roundoption = false;
-    std::string Diam;  // in.
+    std::string Diam;        // in.
+    std::string Exponent{};  // of the size factor of an SCL product of the user's own
 };
 
 /// The member to test, as entered.
@@ -34,6 +36,7 @@ struct MemberEntry {
     std::string DepthText;
     std::string SpeciesText;
     CustomEntry Custom;
+    std::size_t Product = 0;  // of the SCL products
     std::string ShapeName{};  // of a steel member, which has none of the others
 };
 
