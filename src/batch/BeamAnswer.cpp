@@ -89,6 +89,16 @@ constexpr std::array ServiceFields{
     FactorField{"FormFactor", &AdjustmentFactors::FormFactor},
 };
 
+constexpr std::array CompositeFields{
+    FactorField{"Cd", &AdjustmentFactors::Cd},
+    FactorField{"SizeFactor", &AdjustmentFactors::Cf},
+    FactorField{"NextSizeFactor", &AdjustmentFactors::CfSmaller},
+    FactorField{"VolumeFactor", &AdjustmentFactors::Cv},
+    FactorField{"RepetitiveFactor", &AdjustmentFactors::Cr},
+    FactorField{"CL", &AdjustmentFactors::CL},
+    FactorField{"CLOverhang", &AdjustmentFactors::CLOverhang},
+};
+
 using AdjustedField = FloatField<AdjustedValues>;
 
 constexpr std::array AdjustedFields{
@@ -245,6 +255,19 @@ void WriteValues(const DesignValues& values, AnswerWriter& answer)
     answer.EndObject();
 }
 
+void WriteFactors(const AdjustmentFactors& factors, AnswerWriter& answer)
+{
+    answer.BeginObject("factors");
+    if (factors.IsComposite) {
+        WriteFields(factors, CompositeFields, answer);
+        answer.Field("UsesVolumeFactor", factors.CvGoverns);
+    } else {
+        WriteFields(factors, ServiceFields, answer);
+        answer.Field("CvGoverns", factors.CvGoverns);
+    }
+    answer.EndObject();
+}
+
 }  // namespace
 
 void WriteCriteria(const Session& session, AnswerWriter& answer)
@@ -318,10 +341,7 @@ void WriteMemberTest(const MemberTest& member, AnswerWriter& answer)
 {
     WriteCandidate(member.Candidate, KeyText(member.Candidate.BreadthKey), answer);
     WriteValues(member.Values, answer);
-    answer.BeginObject("factors");
-    WriteFields(member.Factors, ServiceFields, answer);
-    answer.Field("CvGoverns", member.Factors.CvGoverns);
-    answer.EndObject();
+    WriteFactors(member.Factors, answer);
     answer.BeginObject("stability");
     WriteSlenderness(member.Stability.Span, SpanNames, answer);
     WriteSlenderness(member.Stability.Overhang, OverhangNames, answer);

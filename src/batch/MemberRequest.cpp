@@ -7,11 +7,14 @@
 #include <string_view>
 #include <variant>
 
+#include "materials/SclProducts.h"
+
 namespace kordavan {
 
 namespace {
 
-using Target = std::variant<std::string MemberEntry::*, std::string CustomEntry::*, bool CustomEntry::*>;
+using Target = std::variant<std::string MemberEntry::*, std::size_t MemberEntry::*,
+                            std::string CustomEntry::*, bool CustomEntry::*>;
 
 struct MemberField {
     std::string_view Name;
@@ -40,12 +43,26 @@ constexpr std::array Fields{
 };
 constexpr std::size_t ListedFieldCount = 3;
 
+constexpr std::array SclFields{
+    MemberField{"Product", &MemberEntry::Product},
+    MemberField{"BreadthText", &MemberEntry::BreadthText},
+    MemberField{"DepthText", &MemberEntry::DepthText},
+    MemberField{"Fb", &CustomEntry::Fb},
+    MemberField{"Fv", &CustomEntry::Fv},
+    MemberField{"E", &CustomEntry::E},
+    MemberField{"FcPerp", &CustomEntry::FcPerp},
+    MemberField{"Exponent", &CustomEntry::Exponent},
+};
+
 constexpr std::array SteelFields{MemberField{"ShapeName", &MemberEntry::ShapeName}};
 
 std::span<const MemberField> FieldsOf(SpeciesGroup group)
 {
     if (group == SpeciesGroup::Steel) {
         return SteelFields;
+    }
+    if (group == SpeciesGroup::Scl) {
+        return SclFields;
     }
     const std::span<const MemberField> all(Fields);
     return group == SpeciesGroup::Custom ? all : all.first(ListedFieldCount);
@@ -57,6 +74,10 @@ struct FieldReader {
     MemberEntry& Entry;
 
     void operator()(std::string MemberEntry::*text) const { Entry.*text = EntryText(Value, Path); }
+    void operator()(std::size_t MemberEntry::*product) const
+    {
+        Entry.*product = static_cast<std::size_t>(PositionOf(Value, SclProductCount - 1, Path));
+    }
     void operator()(std::string CustomEntry::*text) const { Entry.Custom.*text = EntryText(Value, Path); }
     void operator()(bool CustomEntry::*flag) const { Entry.Custom.*flag = FlagOf(Value, Path); }
 };

@@ -57,6 +57,28 @@ constexpr ShortText InchesText(int sixteenths)
 
 static_assert(InchesText(190).View() == "11-7/8");
 
+/// Inches of a whole number, a fraction, or both with a hyphen between: "11-7/8" is 11.875.
+constexpr double InchesOf(std::string_view text)
+{
+    double whole = 0;
+    double number = 0;
+    double numerator = 0;
+    for (const char c : text) {
+        if (c == '-') {
+            whole = number;
+            number = 0;
+        } else if (c == '/') {
+            numerator = number;
+            number = 0;
+        } else {
+            number = 10 * number + (c - '0');
+        }
+    }
+    return numerator > 0 ? whole + numerator / number : number;
+}
+
+static_assert(InchesOf("11-7/8") == 11.875 && InchesOf("14") == 14);
+
 /// The same of a decimal; a length between the sixteenths is given as a plain number.
 std::string InchesText(double inches);
 

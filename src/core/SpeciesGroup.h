@@ -39,6 +39,12 @@ inline constexpr std::array SpeciesGroups{
     SpeciesGroupRow{SpeciesGroup::Steel, "Steel Beams", 9},
 };
 
+/// Groups whose design values the user enters.
+constexpr bool HasOwnValues(SpeciesGroup group)
+{
+    return group == SpeciesGroup::Scl || group == SpeciesGroup::Custom;
+}
+
 constexpr bool SpeciesGroupsStandInListOrder()
 {
     for (std::size_t position = 0; position < SpeciesGroups.size(); ++position) {

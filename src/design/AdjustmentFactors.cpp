@@ -1,10 +1,12 @@
 #include "design/AdjustmentFactors.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "core/NumberText.h"
 #include "design/SizeFactors.h"
 #include "design/VolumeFactor.h"
+#include "materials/SclProducts.h"
 
 namespace kordavan {
 
@@ -28,8 +30,10 @@ WetFactors WetServiceFactors(BreadthKey key)
             return {.Fb = 1.0F, .Fv = 1.0F, .FcPerp = 0.67F, .E = 1.0F};
         case BreadthKey::Glulam:
             return {.Fb = 0.8F, .Fv = 0.875F, .FcPerp = 0.53F, .E = 0.833F};
+        case BreadthKey::Composite:
+            break;
     }
-    return {};
+    return {.Fb = 1, .Fv = 1, .FcPerp = 1, .E = 1};
 }
 
 /// Dimension lumber whose sized bending value is no more than this takes no wet reduction, psi.
@@ -84,6 +88,36 @@ float VolumeFactorOf(const BeamNumbers& beam, const FactorInput& input)
     return VolumeFactor(length, input.Net, VolumeExponent(southernPine), LoadingConstant(beam));
 }
 
+/// (12/d)^x by the exponent of the product, which may change at 12 in.
+float SclSizeFactor(const SclProduct& product, const FactorInput& input)
+{
+    constexpr double referenceDepth = 12;
+    const double d = input.Net.D;
+    const double listed = d >= referenceDepth ? product.DeepExponent : product.ShallowExponent;
+    const double exponent = IsCustomScl(input.Member.Product) ? input.Traits.SclExponent : listed;
+    return Single(std::pow(referenceDepth / d, exponent));
+}
+
+/// Composite lumber takes no factors of wet service or incising; it is made dry and used as its maker says.
+AdjustmentFactors ComputeCompositeFactors(const BeamNumbers& beam, const FactorInput& input)
+{
+    constexpr float repetitive = 1.04F;
+    const SclProduct& product = SclProducts()[input.Member.Product];
+    AdjustmentFactors factors;
+    factors.IsComposite = true;
+    factors.Cd = Single(beam.Dur);
+    factors.Cr = beam.Rep && product.IsRepetitive ? repetitive : 1.0F;
+    if (product.UsesVolumeFactor) {
+        factors.CvGoverns = true;
+        factors.Cv =
+            VolumeFactor(beam.Span, input.Net, VolumeExponent(false), LoadingConstant(beam, PointPair::Any));
+    } else {
+        factors.Cf = SclSizeFactor(product, input);
+    }
+    factors.CfSmaller = factors.CvGoverns ? factors.Cv : factors.Cf;
+    return factors;
+}
+
 /// Bending with the factors that every member has.
 double CommonBending(const DesignValues& values, const AdjustmentFactors& factors)
 {
@@ -97,7 +131,8 @@ CustomTraits TraitsOf(const CustomEntry& custom)
     const bool machineGraded = custom.MSRCheckbox || custom.MELCheckbox;
     return {.OwnSizedValues = custom.CustomIngradeSP || machineGraded,
             .SouthernPine = custom.CustomIngradeSP || custom.SPG,
-            .MachineGraded = machineGraded};
+            .MachineGraded = machineGraded,
+            .SclExponent = Val(custom.Exponent)};
 }
 
 AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& input)
@@ -105,6 +140,9 @@ AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& inp
     constexpr float repetitive = 1.15F;
     constexpr float roundForm = 1.18F;
     const MemberCandidate& member = input.Member;
+    if (member.BreadthKey == BreadthKey::Composite) {
+        return ComputeCompositeFactors(beam, input);
+    }
     AdjustmentFactors factors;
     factors.Cd = Single(beam.Dur);
     factors.Cr = beam.Rep && !member.Round ? repetitive : 1.0F;
@@ -126,7 +164,8 @@ AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& inp
 
 AdjustedValues AdjustWithoutStability(const DesignValues& values, const AdjustmentFactors& factors)
 {
-    const double sized = factors.CvGoverns ? 1.0 : static_cast<double>(factors.Cf) * factors.CiFb;
+    const bool isUnsized = factors.CvGoverns || factors.IsComposite;
+    const double sized = isUnsized ? 1.0 : static_cast<double>(factors.Cf) * factors.CiFb;
     return {.FbAdj = 0,
             .FbStar = Single(CommonBending(values, factors) * sized),
             .FvAdj = Single(static_cast<double>(factors.CmFv) * values.Fv * factors.Cd * factors.CiFv),
@@ -146,6 +185,9 @@ float AllowableBending(const DesignValues& values, const AdjustmentFactors& fact
     const double M = std::min(factors.CL, factors.CLOverhang);
     if (factors.CvGoverns) {
         return Single(M <= factors.Cv ? common * M : common * factors.CiFb * factors.Cv);
+    }
+    if (factors.IsComposite && factors.Cf < 1) {
+        return Single(common * std::min<double>(M, factors.Cf));
     }
     return Single(sized * M * factors.FormFactor);
 }

@@ -21,7 +21,8 @@ struct AdjustmentFactors {
     float CiFv = 1;
     float CiE = 1;
     float Cv = 1;
-    bool CvGoverns = false;  // bending takes the lesser of Cv and CL, never both
+    bool CvGoverns = false;    // bending takes the lesser of Cv and CL, never both
+    bool IsComposite = false;  // a size factor below 1 is not combined with CL either
     float CL = 1;
     float CLOverhang = 1;
     float FormFactor = 1;
@@ -40,6 +41,7 @@ struct CustomTraits {
     bool OwnSizedValues = false;  // the entered Fb is that of the size
     bool SouthernPine = false;
     bool MachineGraded = false;  // MSR or MEL
+    double SclExponent = 0;      // size factor exponent of composite lumber of the user's own
 };
 
 CustomTraits TraitsOf(const CustomEntry& custom);
@@ -63,7 +65,8 @@ AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& inp
 AdjustedValues AdjustWithoutStability(const DesignValues& values, const AdjustmentFactors& factors);
 
 /// Allowable bending stress, psi: a glulam takes the lesser of stability and volume factor, any other member
-/// size and stability together. 0 when one of the factors is 0.
+/// size and stability together, but for composite lumber deeper than 12 in., which takes the lesser of them.
+/// 0 when one of the factors is 0.
 float AllowableBending(const DesignValues& values, const AdjustmentFactors& factors);
 
 }  // namespace kordavan

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/NumberText.h"
+#include "materials/SclProducts.h"
 #include "materials/Species.h"
 
 namespace kordavan {
@@ -34,6 +35,14 @@ constexpr std::string_view BadDepth =
     "So. Pine Glu-Lams: 9-5/8 to 30-1/4 in.\n"
     "(1-3/8 in. increments)";
 
+constexpr std::string_view BadSclBreadth =
+    "Please check Breadth entry for proper format and correct beam breadth for this type of members. Add a "
+    "hyphen before fractions with no spaces and add a small 'x' after the breadth (example: 1-3/4x).";
+constexpr std::string_view BadSclDepth =
+    "Please check Depth entry for proper format and correct beam depth for this type of members. Add a "
+    "hyphen "
+    "before fractions with no spaces (example: 11-7/8).";
+
 constexpr std::string_view BadDiameter = "Please enter a valid numeric value for the diameter in inches.";
 
 /// The boxes of the selection screen; those of the custom values screen bear other names.
@@ -43,10 +52,11 @@ struct SizeBoxes {
     std::string_view Species;
 };
 
+constexpr SizeBoxes OwnSizeBoxes{"Text6", "Text7", "Text5"};
+
 SizeBoxes BoxesOf(SpeciesGroup group)
 {
-    return group == SpeciesGroup::Custom ? SizeBoxes{"Text6", "Text7", "Text5"}
-                                         : SizeBoxes{"Text1", "Text2", "Text3"};
+    return HasOwnValues(group) ? OwnSizeBoxes : SizeBoxes{"Text1", "Text2", "Text3"};
 }
 
 SizeFamily FamilyOf(const CustomEntry& custom)
@@ -66,11 +76,6 @@ SizeFamily FamilyOf(const CustomEntry& custom)
     return custom.Wid2x ? SizeFamily::Custom2x : SizeFamily::Listed;
 }
 
-SizeFamily FamilyOf(const MemberEntry& entry, SpeciesGroup group)
-{
-    return group == SpeciesGroup::Custom ? FamilyOf(entry.Custom) : FamilyOf(group);
-}
-
 Outcome IdentifyRound(const MemberEntry& entry, UserPort& user, MemberCandidate& candidate)
 {
     const std::string& diameter = entry.Custom.Diam;
@@ -81,6 +86,39 @@ Outcome IdentifyRound(const MemberEntry& entry, UserPort& user, MemberCandidate&
     candidate.BreadthKey = BreadthKey::SixBy;
     candidate.B = Val(diameter);
     candidate.D = candidate.B;
+    return Outcome::Done;
+}
+
+void TakeDepth(const Depth& depth, MemberCandidate& candidate)
+{
+    candidate.D = depth.Net;
+    candidate.NextSmallerDepth = depth.NextSmaller;
+    candidate.NextSmallerDepthText = depth.NextSmallerText;
+    candidate.NextLargerDepthText = depth.NextLargerText;
+}
+
+/// A product of the user's own bears the name entered for it.
+std::string ProductName(const MemberEntry& entry)
+{
+    const bool isNamed = IsCustomScl(entry.Product) && !entry.SpeciesText.empty();
+    return isNamed ? entry.SpeciesText : std::string(SclProducts()[entry.Product].Name);
+}
+
+Outcome IdentifyComposite(const MemberEntry& entry, UserPort& user, MemberCandidate& candidate)
+{
+    const std::optional<Breadth> breadth = FindBreadth(SizeFamily::Composite, entry.BreadthText);
+    if (!breadth) {
+        return Refuse(user, Refusal(BadSclBreadth, OwnSizeBoxes.Breadth));
+    }
+    const std::optional<Depth> depth = FindSclDepth(entry.Product, entry.BreadthText, entry.DepthText);
+    if (!depth) {
+        return Refuse(user, Refusal(BadSclDepth, OwnSizeBoxes.Depth));
+    }
+    candidate.SpeciesText = ProductName(entry);
+    candidate.BreadthKey = breadth->Key;
+    candidate.Product = entry.Product;
+    candidate.B = breadth->Net;
+    TakeDepth(*depth, candidate);
     return Outcome::Done;
 }
 
@@ -102,14 +140,19 @@ Outcome IdentifySize(const MemberEntry& entry, SpeciesGroup group, UserPort& use
     }
     candidate.BreadthKey = breadth->Key;
     candidate.B = breadth->Net;
-    candidate.D = depth->Net;
-    candidate.NextSmallerDepth = depth->NextSmaller;
-    candidate.NextSmallerDepthText = depth->NextSmallerText;
-    candidate.NextLargerDepthText = depth->NextLargerText;
+    TakeDepth(*depth, candidate);
     return Outcome::Done;
 }
 
 }  // namespace
+
+SizeFamily FamilyOf(const MemberEntry& entry, SpeciesGroup group)
+{
+    if (group == SpeciesGroup::Scl) {
+        return SizeFamily::Composite;
+    }
+    return group == SpeciesGroup::Custom ? FamilyOf(entry.Custom) : FamilyOf(group);
+}
 
 Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& user,
                        MemberCandidate& candidate)
@@ -119,6 +162,9 @@ Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& u
     candidate.DepthText = entry.DepthText;
     candidate.SpeciesText = entry.SpeciesText;
     candidate.Family = FamilyOf(entry, group);
+    if (group == SpeciesGroup::Scl) {
+        return IdentifyComposite(entry, user, candidate);
+    }
     const bool isRound = group == SpeciesGroup::Custom && entry.Custom.Roundoption;
     return isRound ? IdentifyRound(entry, user, candidate) : IdentifySize(entry, group, user, candidate);
 }

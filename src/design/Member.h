@@ -53,10 +53,16 @@ struct MemberCandidate {
     double NextSmallerDepth = 0;  // net, in.; 0 where there is none
     std::string_view NextSmallerDepthText;
     std::string_view NextLargerDepthText;
+    std::size_t Product = 0;  // of composite lumber
 };
 
+/// The family of sizes that a member is chosen from: by its group, or by the options of the user's own
+/// values.
+SizeFamily FamilyOf(const MemberEntry& entry, SpeciesGroup group);
+
 /// Looks up the texts of a member: its breadth, then its species, then its depth. A text that is not written
-/// exactly as the catalogue has it is refused with the formats that are.
+/// exactly as the catalogue has it is refused with the formats that are. Composite lumber bears the name of
+/// its product.
 Outcome IdentifyMember(const MemberEntry& entry, SpeciesGroup group, UserPort& user,
                        MemberCandidate& candidate);
 

@@ -36,9 +36,10 @@ struct MemberTestResult {
     float R2Total = 0;
     float MaxMoment = 0;  // ft-lb
     float OverhangMoment = 0;
-    float TotalLoad = 0;         // lb
-    bool NextSmallerOk = false;  // the next smaller depth passes every check
-    bool NoSplits = false;       // shear passes only if the member is free of splits
+    float TotalLoad = 0;              // lb
+    bool NextSmallerOk = false;       // the next smaller depth passes every check
+    bool NoSplits = false;            // shear passes only if the member is free of splits
+    bool IsOverProductLimit = false;  // deflects more than its maker allows
     std::string_view SecStatus;
     std::string_view ShearStatus;
     std::string_view DeflStatus;

@@ -134,7 +134,8 @@ std::string ModifiersText(const ReportSource& source)
     if (IsGlulam(source.Member.Candidate)) {
         return std::string(ServiceText(false, beam.Wet, false));
     }
-    std::string text(ServiceText(beam.Rep, beam.Wet, beam.Incised));
+    const bool isIncised = beam.Incised && source.Member.Candidate.BreadthKey != BreadthKey::Composite;
+    std::string text(ServiceText(beam.Rep, beam.Wet, isIncised));
     text += SpacingText(SpacingInForce(source.Problem));
     return text;
 }
@@ -173,6 +174,11 @@ std::string DeadDeflectionText(const ReportSource& source)
 
 std::string LargeDeflectionText(const MemberTestResult& result)
 {
+    if (result.IsOverProductLimit) {
+        return "ALERT! Timberstrand members 7-1/4 in. and smaller are limited to 5/16 in. deflection.  "
+               "Please "
+               "increase depth.";
+    }
     constexpr float alertAbove = 0.33F;  // in.
     const std::array deflections{result.TotalDeflection, result.LiveDeflection, result.OverhangDeflection,
                                  result.OverhangLiveDeflection};

@@ -12,6 +12,7 @@
 #include "design/CustomValues.h"
 #include "design/TestFaults.h"
 #include "design/Verdict.h"
+#include "materials/SclProducts.h"
 
 namespace kordavan {
 
@@ -67,10 +68,16 @@ BucklingClass BucklingClassOf(const TestCase& test)
     return test.Traits.MachineGraded ? BucklingClass::MachineGraded : BucklingClass::VisuallyGraded;
 }
 
+float DensityFactorOf(const BeamNumbers& beam, const MemberCandidate& member)
+{
+    return member.BreadthKey == BreadthKey::Composite ? SclProducts()[member.Product].DensityFactor
+                                                      : beam.DensityFactor;
+}
+
 SectionProps SectionOf(const TestCase& test, NetSize size)
 {
     const WeightBasis weight{.NoWeight = test.Beam.NoWeight,
-                             .DensityFactor = test.Beam.DensityFactor,
+                             .DensityFactor = DensityFactorOf(test.Beam, test.Member),
                              .SlopeFactor = test.Beam.SlopeFactor};
     return test.Member.Round ? RoundProps(size.D, weight)
                              : RectangleProps({.B = size.B, .D = size.D}, weight);
@@ -161,7 +168,8 @@ bool TestNextSmaller(const TestCase& test, const DeflectionResult& deflection, U
                             .SectionReq = smaller.Shear.SectionRequired,
                             .Area = smaller.Section.A,
                             .AreaReq = smaller.Shear.AreaRequired,
-                            .Growth = static_cast<double>(candidate.Section.I) / smaller.Section.I},
+                            .Growth = static_cast<double>(candidate.Section.I) / smaller.Section.I,
+                            .MostDeflection = ProductDeflectionLimit(member, smallerSize.D)},
                            deflection);
 }
 
@@ -184,7 +192,7 @@ Outcome CheckMember(const Session& session, const MemberEntry& entry, TestOption
     if (beam.Rep && unfitForRepetition && !options.QuietTest) {
         return Refuse(user, Refusal(RepetitiveNote));
     }
-    if (!beam.InGrade && beam.Group != SpeciesGroup::Custom) {
+    if (!beam.InGrade && !HasOwnValues(beam.Group)) {
         return Refuse(user, Refusal(DatabaseError));
     }
     return Outcome::Done;
@@ -193,6 +201,7 @@ Outcome CheckMember(const Session& session, const MemberEntry& entry, TestOption
 void StoreTest(const MemberCandidate& member, const SizeTest& size, const DeflectionResult& deflection,
                Session& session)
 {
+    session.Numbers.DensityFactor = DensityFactorOf(session.Numbers, member);
     static_cast<CandidateLoadResult&>(session.Analysis) = size.Loads;
     static_cast<ShearResult&>(session.Analysis) = size.Shear;
     static_cast<DeflectionResult&>(session.Analysis) = deflection;
@@ -217,7 +226,7 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     }
     TestCase test{
         .Beam = beam, .Applied = session.Analysis, .Member = member, .SoPineLowered = session.SoPineLowered};
-    if (beam.Group == SpeciesGroup::Custom) {
+    if (HasOwnValues(beam.Group)) {
         test.Traits = TraitsOf(entry.Custom);
         test.Own = ReadCustomValues(entry.Custom);
     } else {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "core/NumberText.h"
 
@@ -48,6 +49,36 @@ void JudgeDeflections(const BeamNumbers& beam, MemberTestResult& result)
     }
 }
 
+struct DeflectionCheck {
+    float MemberTestResult::*Deflection;
+    std::string_view MemberTestResult::*Status;
+};
+
+constexpr std::array DeflectionChecks{
+    DeflectionCheck{&MemberTestResult::TotalDeflection, &MemberTestResult::DeflStatus},
+    DeflectionCheck{&MemberTestResult::LiveDeflection, &MemberTestResult::LDeflStatus},
+    DeflectionCheck{&MemberTestResult::OverhangDeflection, &MemberTestResult::OHDeflStatus},
+    DeflectionCheck{&MemberTestResult::OverhangLiveDeflection, &MemberTestResult::OHLDeflStatus},
+};
+
+/// The first deflection beyond the limit of the product fails its check.
+void JudgeProductLimit(const MemberCandidate& member, MemberTestResult& result)
+{
+    const double most = ProductDeflectionLimit(member, member.D);
+    const auto* const beyond =
+        std::find_if(DeflectionChecks.begin(), DeflectionChecks.end(),
+                     [&](const DeflectionCheck& check) { return std::abs(result.*check.Deflection) > most; });
+    if (beyond != DeflectionChecks.end()) {
+        result.*beyond->Status = StatusFail;
+        result.IsOverProductLimit = true;
+    }
+}
+
+bool IsSolidWood(BreadthKey key)
+{
+    return key != BreadthKey::Glulam && key != BreadthKey::Composite;
+}
+
 /// NDS 1997 Table 4A, shear stress factor: a member without splits has Ch of 2.0 on a base value of 90 psi.
 void TryWithoutSplits(const BeamNumbers& beam, MemberTest& member)
 {
@@ -55,7 +86,7 @@ void TryWithoutSplits(const BeamNumbers& beam, MemberTest& member)
     constexpr float Ch = 2;
     MemberTestResult& result = member.Result;
     const bool isAsked = !beam.IsSteel() && beam.Nds == Edition::Nds1997 &&
-                         member.Candidate.BreadthKey != BreadthKey::Glulam && result.SecStatus == StatusOk &&
+                         IsSolidWood(member.Candidate.BreadthKey) && result.SecStatus == StatusOk &&
                          result.DeflStatus == StatusOk && result.ShearStatus == StatusFail;
     if (!isAsked) {
         return;
@@ -120,8 +151,19 @@ void GiveVerdict(const BeamNumbers& beam, MemberTest& member)
     result.SecStatus = StatusOf(result.SectionProp >= result.SectionReq);
     result.ShearStatus = StatusOf(result.FvAdj >= result.ActualShearStress);
     JudgeDeflections(beam, result);
+    JudgeProductLimit(member.Candidate, result);
     TryWithoutSplits(beam, member);
     result.Overall = OverallOf(result);
+}
+
+double ProductDeflectionLimit(const MemberCandidate& member, double depth)
+{
+    constexpr std::size_t timberStrand = 10;
+    constexpr double mostDepth = 7.25;
+    constexpr double mostDeflection = 5.0 / 16;
+    const bool isLimited =
+        member.BreadthKey == BreadthKey::Composite && member.Product == timberStrand && depth <= mostDepth;
+    return isLimited ? mostDeflection : std::numeric_limits<double>::infinity();
 }
 
 bool MeetsDeflectionLimits(const DeflectionResult& deflection)
@@ -132,7 +174,11 @@ bool MeetsDeflectionLimits(const DeflectionResult& deflection)
 bool PassesAsSmaller(const SmallerSize& smaller, const DeflectionResult& deflection)
 {
     return smaller.Section >= smaller.SectionReq && smaller.Area >= smaller.AreaReq &&
-           AreDeflectionsWithin(deflection, smaller.Growth);
+           AreDeflectionsWithin(deflection, smaller.Growth) &&
+           std::max({std::abs(deflection.TotalDeflIn), std::abs(deflection.LiveDeflIn),
+                     std::abs(deflection.TipDeflIn), std::abs(deflection.TipLiveDeflIn)}) *
+                   smaller.Growth <=
+               smaller.MostDeflection;
 }
 
 }  // namespace kordavan

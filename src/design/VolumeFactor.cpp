@@ -67,7 +67,7 @@ bool StandAtThirdPoints(const PointsAlone& loads, double span)
 
 }  // namespace
 
-double LoadingConstant(const BeamNumbers& beam)
+double LoadingConstant(const BeamNumbers& beam, PointPair pair)
 {
     if (beam.Nds != Edition::Nds1997 || beam.IsOverhanging() || beam.IsContinuous()) {
         return 1;
@@ -76,8 +76,9 @@ double LoadingConstant(const BeamNumbers& beam)
     if (loads.Count == 1 && LiesIn(Middle, loads.Points[0].Place, beam.Span)) {
         return 1.09;
     }
-    const bool equalPair = loads.Count == 2 && loads.Points[0].Load == loads.Points[1].Load;
-    return equalPair && StandAtThirdPoints(loads, beam.Span) ? 0.96 : 1;
+    const bool isPair =
+        loads.Count == 2 && (pair == PointPair::Any || loads.Points[0].Load == loads.Points[1].Load);
+    return isPair && StandAtThirdPoints(loads, beam.Span) ? 0.96 : 1;
 }
 
 double VolumeExponent(bool southernPine)

@@ -5,10 +5,13 @@
 
 namespace kordavan {
 
+/// Whether two point loads must be equal to count as a pair at the third points.
+enum class PointPair { Equal, Any };
+
 /// Loading condition constant KL of the volume factor. It counts under NDS 1997 alone, on one simple span
-/// that carries nothing but a point load near midspan (1.09) or two equal ones near the third points (0.96).
+/// that carries nothing but a point load near midspan (1.09) or two near the third points (0.96).
 /// Source: NDS 1997, Table 5.3.2.
-double LoadingConstant(const BeamNumbers& beam);
+double LoadingConstant(const BeamNumbers& beam, PointPair pair = PointPair::Equal);
 
 /// Exponent 1/x of the volume factor: 1/20 for Southern Pine, 1/10 for other species.
 double VolumeExponent(bool southernPine);

@@ -7,6 +7,7 @@
 
 #include "core/NumberText.h"
 #include "core/SizeText.h"
+#include "materials/SclProducts.h"
 
 namespace kordavan {
 
@@ -140,6 +141,8 @@ std::span<const LadderStep> LadderOf(SizeFamily family, BreadthKey key)
                                                       : std::span<const LadderStep>(TimberLadder);
         case BreadthKey::Glulam:
             return GlulamLadderOf(family);
+        case BreadthKey::Composite:
+            break;
     }
     return {};
 }
@@ -169,6 +172,8 @@ std::span<const Breadth> BreadthsOf(SizeFamily family)
             return CustomSouthernPineGlulamBreadths;
         case SizeFamily::GlulamHeader:
             return HeaderBreadths;
+        case SizeFamily::Composite:
+            return SclBreadths();
     }
     return {};
 }
@@ -184,6 +189,8 @@ std::string_view KeyText(BreadthKey key)
             return "6x";
         case BreadthKey::Glulam:
             return "GLB";
+        case BreadthKey::Composite:
+            return "SCL";
     }
     return {};
 }

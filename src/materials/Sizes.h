@@ -11,9 +11,9 @@
 namespace kordavan {
 
 /// A member's size class, by which design values and factors are looked up.
-enum class BreadthKey { TwoBy, FourBy, SixBy, Glulam };
+enum class BreadthKey { TwoBy, FourBy, SixBy, Glulam, Composite };
 
-/// "2x", "4x", "6x" or "GLB".
+/// "2x", "4x", "6x", "GLB" or "SCL".
 std::string_view KeyText(BreadthKey key);
 
 /// Where a member's size is chosen from. One text may stand for different nets in different families:
@@ -26,7 +26,8 @@ enum class SizeFamily {
     CustomTimber,  // timbers by half inches, nominal less 1/2 in.
     CustomGlulam,
     CustomSouthernPineGlulam,
-    GlulamHeader
+    GlulamHeader,
+    Composite  // whose depths are the product's
 };
 
 struct Breadth {
