@@ -45,6 +45,12 @@ constexpr bool HasOwnValues(SpeciesGroup group)
     return group == SpeciesGroup::Scl || group == SpeciesGroup::Custom;
 }
 
+/// Composite lumber and steel are never incised.
+constexpr bool IsIncisable(SpeciesGroup group)
+{
+    return group != SpeciesGroup::Scl && group != SpeciesGroup::Steel;
+}
+
 constexpr bool SpeciesGroupsStandInListOrder()
 {
     for (std::size_t position = 0; position < SpeciesGroups.size(); ++position) {

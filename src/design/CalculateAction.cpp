@@ -11,6 +11,7 @@
 #include "design/EntryAdjustment.h"
 #include "design/LiveLoadChecks.h"
 #include "design/LoadTools.h"
+#include "design/OwnSelection.h"
 
 namespace kordavan {
 
@@ -151,6 +152,9 @@ Outcome AdjustAndAnalyse(Session& session, UserPort& user, const Progress& progr
     session.Stations = stations;
     session.Analysis = AnalysisResult{};
     static_cast<AppliedLoadResult&>(session.Analysis) = applied;
+    if (beam.Group != SpeciesGroup::Custom) {
+        DiscardOwnValues(session.Entry);
+    }
     progress.Reach(AllReached);
     return Outcome::Done;
 }

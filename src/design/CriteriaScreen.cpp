@@ -77,7 +77,7 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
     screen.HasUnbracedLength = !FixedUnbracedLength(problem);
     screen.HasOverhang = problem.Support == SupportCondition::Overhanging;
     screen.HasSteel = problem.Combo1 == SpeciesGroup::Steel;
-    screen.HasIncising = !screen.HasSteel;
+    screen.HasIncising = IsIncisable(problem.Combo1);
     screen.UnbracedUnit = screen.HasOverhang ? "ft, backspan" : "ft";
     screen.UBSpan = {
         .Caption = unbalanced.Span ? UnbalanceCaptions::RestoreSpan : UnbalanceCaptions::UnbalanceSpan,

@@ -8,10 +8,14 @@
 #include <string_view>
 
 #include "core/NumberText.h"
+#include "materials/SclProducts.h"
 
 namespace kordavan {
 
 namespace {
+
+constexpr std::string_view UnfitExponent =
+    "Please enter a decimal value for the Cf Size factor that is less than one.";
 
 struct OwnValue {
     float Value;
@@ -40,6 +44,14 @@ DesignValues ReadCustomValues(const CustomEntry& custom)
             .Fv = FiniteValue(custom.Fv),
             .FcPerp = WholePsi(Val(custom.FcPerp)),
             .E = FiniteValue(custom.E)};
+}
+
+Outcome CheckSclExponent(const MemberEntry& entry, SpeciesGroup group, UserPort& user)
+{
+    const std::string& exponent = entry.Custom.Exponent;
+    const bool isAsked = group == SpeciesGroup::Scl && IsCustomScl(entry.Product);
+    const bool isFit = IsNumeric(exponent) && Val(exponent) >= 0 && Val(exponent) < 1;
+    return !isAsked || isFit ? Outcome::Done : Refuse(user, Refusal(UnfitExponent, "Text8"));
 }
 
 Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user)

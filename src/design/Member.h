@@ -28,6 +28,8 @@ struct CustomEntry {
     bool Roundoption = false;
     std::string Diam;        // in.
     std::string Exponent{};  // of the size factor of an SCL product of the user's own
+
+    bool operator==(const CustomEntry&) const = default;
 };
 
 /// The member to test, as entered.

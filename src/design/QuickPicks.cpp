@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/NumberText.h"
-#include "design/TestMember.h"
+#include "design/Pretest.h"
 #include "materials/Species.h"
 
 namespace kordavan {
@@ -138,50 +138,6 @@ std::string_view StartDepth(const std::vector<DepthChoice>& depths, const Estima
     return found == depths.end() ? depths.back().Text : found->Text;
 }
 
-class Pretest {
-public:
-    Pretest(Session& tested, UserPort& port) : session(tested), user(port) {}
-
-    /// Walks from this depth to the smallest that passes.
-    PickState Walk(MemberEntry& entry)
-    {
-        if (!Test(entry)) {
-            return PickState::NotTested;
-        }
-        while (!Passes()) {
-            if (!Step(entry, session.Member.Candidate.NextLargerDepthText)) {
-                return PickState::NonePasses;
-            }
-            if (Passes()) {
-                return PickState::Filled;
-            }
-        }
-        while (session.Member.Result.NextSmallerOk) {
-            if (!Step(entry, session.Member.Candidate.NextSmallerDepthText)) {
-                return PickState::NonePasses;
-            }
-        }
-        return PickState::Filled;
-    }
-
-private:
-    bool Test(const MemberEntry& entry)
-    {
-        return TestMember(session, entry, {.QuietTest = true}, user) == Outcome::Done;
-    }
-
-    bool Passes() const { return session.Member.Result.Overall == StatusOk; }
-
-    bool Step(MemberEntry& entry, std::string_view depth)
-    {
-        entry.DepthText = depth;
-        return !depth.empty() && Test(entry);
-    }
-
-    Session& session;
-    UserPort& user;
-};
-
 void FillCell(Session& session, UserPort& user, QuickPick& cell)
 {
     const BeamNumbers& beam = session.Numbers;
@@ -199,7 +155,7 @@ void FillCell(Session& session, UserPort& user, QuickPick& cell)
     entry.BreadthText = cell.BreadthText;
     entry.SpeciesText = cell.SpeciesText;
     entry.DepthText = StartDepth(DepthsOf(FamilyOf(beam.Group), *breadth), estimate, breadth->Key);
-    cell.State = Pretest(session, user).Walk(entry);
+    cell.State = WalkToSmallest(session, entry, user);
     if (cell.State == PickState::Filled) {
         cell.DepthText = entry.DepthText;
     }
@@ -216,9 +172,9 @@ std::string ValuesInUse(const BeamNumbers& beam)
 }
 
 /// Timbers and glulams, which repetitive use does not raise.
-bool IsUnfitForRepetition(const QuickPick& pick, const BeamNumbers& beam)
+bool IsUnfitForRepetition(const QuickPick& pick, SizeFamily family)
 {
-    const std::optional<Breadth> breadth = FindBreadth(FamilyOf(beam.Group), pick.BreadthText);
+    const std::optional<Breadth> breadth = FindBreadth(family, pick.BreadthText);
     return breadth && (breadth->Key == BreadthKey::SixBy || breadth->Key == BreadthKey::Glulam);
 }
 
@@ -233,6 +189,8 @@ std::string_view WhyEmpty(PickState state)
             return "Empty: no depth of this breadth passes every check.";
         case PickState::NotTested:
             return "Empty: the test was refused.";
+        case PickState::NotEntered:
+            return "Empty: the values have not been entered.";
         case PickState::Filled:
             break;
     }
@@ -241,13 +199,13 @@ std::string_view WhyEmpty(PickState state)
 
 }  // namespace
 
-PickFace FaceOf(const QuickPick& pick, const BeamNumbers& beam)
+PickFace FaceOf(const QuickPick& pick, SizeFamily family, bool isRepetitive)
 {
     PickFace face;
     face.Name = pick.BreadthText;
     face.Name += pick.DepthText.empty() ? " " : " " + pick.DepthText + " ";
     face.Name += pick.SpeciesText;
-    face.IsFaded = beam.Rep && IsUnfitForRepetition(pick, beam);
+    face.IsFaded = isRepetitive && IsUnfitForRepetition(pick, family);
     if (pick.DepthText.empty()) {
         face.Tip = WhyEmpty(pick.State);
     } else {

@@ -6,14 +6,12 @@
 #include <string_view>
 
 #include "core/Message.h"
+#include "design/Pretest.h"
 #include "design/Session.h"
 
 namespace kordavan {
 
 inline constexpr std::size_t QuickPickCount = 24;
-
-/// Why a quick pick offers no depth.
-enum class PickState { Filled, UnderLadder, PastLadder, NonePasses, NotTested };
 
 struct QuickPick {
     std::string_view BreadthText;
@@ -31,7 +29,7 @@ struct PickFace {
     bool IsFaded = false;  // repetitive use is asked for, which the test will not grant it
 };
 
-PickFace FaceOf(const QuickPick& pick, const BeamNumbers& beam);
+PickFace FaceOf(const QuickPick& pick, SizeFamily family, bool isRepetitive);
 
 /// True when the pick is the member in the size boxes.
 bool IsEntered(const QuickPick& pick, const MemberEntry& entry);

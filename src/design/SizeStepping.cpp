@@ -4,7 +4,11 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <vector>
 
+#include "core/NumberText.h"
+#include "core/SizeText.h"
+#include "materials/SclProducts.h"
 #include "materials/Sizes.h"
 #include "materials/Species.h"
 
@@ -18,12 +22,52 @@ constexpr std::array<std::string_view, 10> SawnBreadths{"2x", "(2) 2x", "4x",  "
 /// Stands beside the sawn ladder: up from it leads to the two-ply member, down to none.
 constexpr std::string_view ThreeInch = "3x";
 
-std::span<const std::string_view> LadderOf(const MemberCandidate& member, SpeciesGroup group)
+constexpr std::array<std::string_view, 2> HeaderBreadths{"3-1/2x", "5-1/2x"};
+
+/// The breadths of a product from small to large.
+std::vector<std::string_view> ProductBreadths(std::size_t product)
 {
-    if (member.BreadthKey != BreadthKey::Glulam) {
-        return SawnBreadths;
+    std::vector<Breadth> breadths;
+    for (const SclSize& size : SclProducts()[product].Sizes) {
+        breadths.push_back(*FindBreadth(SizeFamily::Composite, size.Breadth));
     }
-    return GlulamLadderOf(group);
+    std::sort(breadths.begin(), breadths.end(),
+              [](const Breadth& a, const Breadth& b) { return a.Net < b.Net; });
+    std::vector<std::string_view> texts;
+    for (const Breadth& breadth : breadths) {
+        texts.push_back(breadth.Text);
+    }
+    return texts;
+}
+
+template <typename Ladder>
+std::vector<std::string_view> Rungs(const Ladder& ladder)
+{
+    return {ladder.begin(), ladder.end()};
+}
+
+/// The breadths that a member of this family is stepped through; a timber of the user's own is stepped in
+/// depth alone.
+std::vector<std::string_view> LadderOf(const MemberCandidate& member, SpeciesGroup group)
+{
+    switch (member.Family) {
+        case SizeFamily::Composite:
+            return ProductBreadths(member.Product);
+        case SizeFamily::CustomTimber:
+        case SizeFamily::Custom4x:
+            return {};
+        case SizeFamily::GlulamHeader:
+            return Rungs(HeaderBreadths);
+        case SizeFamily::CustomGlulam:
+            return Rungs(GlulamLadder);
+        case SizeFamily::CustomSouthernPineGlulam:
+            return Rungs(SouthernPineGlulamLadder);
+        case SizeFamily::Listed:
+        case SizeFamily::SouthernPineListed:
+        case SizeFamily::Custom2x:
+            break;
+    }
+    return member.BreadthKey == BreadthKey::Glulam ? Rungs(GlulamLadderOf(group)) : Rungs(SawnBreadths);
 }
 
 /// Steps that the ladders would allow and that are not offered.
@@ -64,22 +108,39 @@ std::span<const std::string_view> RungsBelow(std::span<const std::string_view> l
     return found == ladder.end() ? std::span<const std::string_view>{} : std::span(ladder.begin(), found);
 }
 
+bool IsListed(SizeFamily family)
+{
+    return family == SizeFamily::Listed || family == SizeFamily::SouthernPineListed;
+}
+
+bool HasDepth(const MemberCandidate& member, const Breadth& breadth)
+{
+    if (member.Family != SizeFamily::Composite) {
+        return FindDepth(member.Family, breadth, member.DepthText).has_value();
+    }
+    const std::vector<DepthChoice> depths = SclDepths(member.Product, breadth.Text);
+    return std::any_of(depths.begin(), depths.end(),
+                       [&member](const DepthChoice& depth) { return depth.Text == member.DepthText; });
+}
+
 /// The member on this rung, if its depth and species exist there.
 std::optional<MemberEntry> OnRung(std::string_view rung, const MemberEntry& entry,
                                   const MemberCandidate& member)
 {
     const std::optional<Breadth> breadth = FindBreadth(member.Family, rung);
-    if (!breadth || !FindDepth(member.Family, *breadth, member.DepthText)) {
-        return std::nullopt;
-    }
-    const SpeciesRow* const species = FindSpeciesForBreadth(breadth->Key, member.SpeciesText);
-    if (species == nullptr) {
+    if (!breadth || !HasDepth(member, *breadth)) {
         return std::nullopt;
     }
     MemberEntry stepped = entry;
     stepped.BreadthText = rung;
     stepped.DepthText = member.DepthText;
-    stepped.SpeciesText = species->SpeciesName;
+    if (IsListed(member.Family)) {
+        const SpeciesRow* const species = FindSpeciesForBreadth(breadth->Key, member.SpeciesText);
+        if (species == nullptr) {
+            return std::nullopt;
+        }
+        stepped.SpeciesText = species->SpeciesName;
+    }
     return stepped;
 }
 
@@ -105,7 +166,37 @@ std::optional<MemberEntry> WithDepth(const MemberEntry& entry, const MemberCandi
     MemberEntry stepped = entry;
     stepped.BreadthText = member.BreadthText;
     stepped.DepthText = depth;
-    stepped.SpeciesText = member.SpeciesText;
+    if (IsListed(member.Family)) {
+        stepped.SpeciesText = member.SpeciesText;
+    }
+    return stepped;
+}
+
+/// Timbers and poles of the user's own grow and shrink by an inch between these depths, in.
+constexpr double LeastSteppedDepth = 6;
+constexpr double MostSteppedDepth = 35;
+
+bool IsSteppedByInches(const MemberCandidate& member)
+{
+    return member.Round || member.Family == SizeFamily::CustomTimber;
+}
+
+bool IsPastItsSteps(SizeStep step, const MemberCandidate& member)
+{
+    const double depth = member.Round ? member.D : InchesOf(member.DepthText);
+    return (step == SizeStep::DepthUp && depth >= MostSteppedDepth) ||
+           (step == SizeStep::DepthDown && depth < LeastSteppedDepth);
+}
+
+std::optional<MemberEntry> StepDiameter(SizeStep step, const MemberEntry& entry,
+                                        const MemberCandidate& member)
+{
+    const bool isUp = step == SizeStep::DepthUp;
+    if (!isUp && step != SizeStep::DepthDown) {
+        return std::nullopt;
+    }
+    MemberEntry stepped = entry;
+    stepped.Custom.Diam = PlainNumber(member.D + (isUp ? 1.0 : -1.0));
     return stepped;
 }
 
@@ -114,10 +205,13 @@ std::optional<MemberEntry> WithDepth(const MemberEntry& entry, const MemberCandi
 std::optional<MemberEntry> StepSize(SizeStep step, const MemberEntry& entry, const MemberCandidate& member,
                                     SpeciesGroup group)
 {
-    if (IsClosed(step, member)) {
+    if (IsClosed(step, member) || (IsSteppedByInches(member) && IsPastItsSteps(step, member))) {
         return std::nullopt;
     }
-    const std::span<const std::string_view> ladder = LadderOf(member, group);
+    if (member.Round) {
+        return StepDiameter(step, entry, member);
+    }
+    const std::vector<std::string_view> ladder = LadderOf(member, group);
     switch (step) {
         case SizeStep::DepthUp:
             return WithDepth(entry, member, member.NextLargerDepthText);

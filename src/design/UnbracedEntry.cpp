@@ -1,5 +1,6 @@
 #include "design/UnbracedEntry.h"
 
+#include "design/OwnSelection.h"
 #include "design/SteelCriteria.h"
 #include "materials/SteelShapes.h"
 
@@ -8,6 +9,9 @@ namespace kordavan {
 std::optional<std::string_view> FixedUnbracedLength(const BeamProblem& problem)
 {
     if (problem.Support == SupportCondition::MultipleSpans) {
+        return FullyBraced;
+    }
+    if (problem.Combo1 == SpeciesGroup::Scl) {
         return FullyBraced;
     }
     if (problem.Combo1 != SpeciesGroup::Steel) {
@@ -25,7 +29,8 @@ void SwitchMaterial(Session& session, SpeciesGroup group, SteelFamily family)
     const bool wasFixed = FixedUnbracedLength(problem).has_value();
     problem.Combo1 = group;
     problem.Family = family;
-    problem.Incised = problem.Incised && group != SpeciesGroup::Steel;
+    problem.Incised = problem.Incised && IsIncisable(group);
+    DiscardOwnValues(session.Entry);
     if (const std::optional<std::string_view> fixed = FixedUnbracedLength(problem)) {
         problem.UBLtext = *fixed;
     } else if (wasFixed) {

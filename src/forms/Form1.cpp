@@ -39,18 +39,6 @@ constexpr int MostProject = 35;
 constexpr int MostItem = 25;
 constexpr int MostDescription = 30;
 
-/// The groups that have a selection screen, in the order of the list.
-constexpr std::array MaterialsOffered{
-    SpeciesGroup::HemFirDouglasFir,
-    SpeciesGroup::CedarWesternWoods,
-    SpeciesGroup::EasternSpecies,
-    SpeciesGroup::DouglasFirSouthNorth,
-    SpeciesGroup::SprucePineFir,
-    SpeciesGroup::SouthernPine,
-    SpeciesGroup::Oak,
-    SpeciesGroup::Steel,
-};
-
 constexpr std::string_view Page =
     "CRITERIA\n\n"
     "Enter the span, the limits and the loads of the beam, choose its material and press Enter or OK "
@@ -145,12 +133,11 @@ QLayout* Form1::MakeHead()
     material = new QComboBox;
     Describe(*material, {.Name = "Combo1", .Tip = "Material of the beam"});
     IgnoreStrayWheel(*material);
-    for (const SpeciesGroup group : MaterialsOffered) {
-        material->addItem(Text(SpeciesGroups[static_cast<std::size_t>(group)].Text), static_cast<int>(group));
+    for (const SpeciesGroupRow& row : SpeciesGroups) {
+        material->addItem(Text(row.Text));
     }
-    connect(material, &QComboBox::activated, this, [this](int index) {
-        ChooseMaterial(static_cast<SpeciesGroup>(material->itemData(index).toInt()));
-    });
+    connect(material, &QComboBox::activated, this,
+            [this](int index) { ChooseMaterial(static_cast<SpeciesGroup>(index)); });
     head->addWidget(MakeCaption("&Material", *material));
     head->addWidget(material);
     return head;
@@ -306,7 +293,7 @@ void Form1::Refresh()
     const CriteriaScreen screen = DescribeCriteriaScreen(session);
     bindings.Show();
     setWindowTitle(Text(screen.Title));
-    material->setCurrentIndex(material->findData(static_cast<int>(session.Problem.Combo1)));
+    material->setCurrentIndex(static_cast<int>(session.Problem.Combo1));
     spanGroup->ShowScreen(screen);
     conditionsGroup->ShowScreen(screen, session.Problem);
     steelGroup->setVisible(screen.HasSteel);
@@ -394,10 +381,6 @@ void Form1::ChooseMaterial(SpeciesGroup group)
 
 void Form1::Calculate()
 {
-    if (material->currentIndex() < 0) {
-        Refuse(User(), Refusal("Please choose a material.", "Combo1"));
-        return;
-    }
     const Progress progress([this](int percent) { gauge->Reach(percent); });
     try {
         if (CalculateAction(TheSession(), User(), progress) == Outcome::Done) {

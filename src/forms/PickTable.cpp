@@ -94,9 +94,9 @@ bool IsArrow(int key)
 
 }  // namespace
 
-PickCell::PickCell(std::size_t index)
+PickCell::PickCell(const QString& name)
 {
-    setObjectName(ArrayName("ht", index));
+    setObjectName(name);
     setAutoDefault(false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -171,7 +171,7 @@ PickTable::PickTable(HelpButton* widthHelp, HelpButton* glulamHelp) : grid(new Q
 void PickTable::Show(const QuickPicks& picks, const BeamNumbers& beam)
 {
     for (std::size_t cell = 0; cell < QuickPickCount; ++cell) {
-        cells[cell]->Show(picks[cell], FaceOf(picks[cell], beam));
+        cells[cell]->Show(picks[cell], FaceOf(picks[cell], FamilyOf(beam.Group), beam.Rep));
     }
     for (std::size_t row = 0; row < Rows.size(); ++row) {
         rowHeads[row]->setText(Text(picks[Rows[row].First].SpeciesText));
@@ -224,7 +224,7 @@ void PickTable::keyPressEvent(QKeyEvent* event)
 void PickTable::AddCells()
 {
     for (std::size_t index = 0; index < QuickPickCount; ++index) {
-        auto* const cell = new PickCell(index);
+        auto* const cell = new PickCell(ArrayName("ht", index));
         cells[index] = cell;
         grid->addWidget(cell, Places[index].Line, Places[index].Column);
         connect(cell, &QPushButton::clicked, this, [this, index] { Q_EMIT Picked(index); });

@@ -19,7 +19,7 @@ class PickCell : public QPushButton {
     Q_OBJECT
 
 public:
-    explicit PickCell(std::size_t index);
+    explicit PickCell(const QString& name);
 
     void Show(const QuickPick& pick, const PickFace& face);
     void SetPicked(bool picked);

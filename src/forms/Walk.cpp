@@ -7,6 +7,7 @@
 #include "forms/EntryDiagram.h"
 #include "forms/Form1.h"
 #include "forms/Form13.h"
+#include "forms/Form2.h"
 #include "forms/Form21.h"
 #include "forms/Form22.h"
 #include "forms/Form25.h"
@@ -66,6 +67,8 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form3>(*this);
         case Screen::SteelSelection:
             return std::make_unique<Form22>(*this);
+        case Screen::OwnSelection:
+            return std::make_unique<Form2>(*this);
         case Screen::TestReport:
             return std::make_unique<Form5>(*this);
         case Screen::Settings:
@@ -96,6 +99,9 @@ Form& Walk::FormOf(Screen screen)
 
 Screen Walk::SelectionScreen() const
 {
+    if (HasOwnValues(session.Numbers.Group)) {
+        return Screen::OwnSelection;
+    }
     return session.Numbers.IsSteel() ? Screen::SteelSelection : Screen::WoodSelection;
 }
 

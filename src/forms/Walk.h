@@ -21,6 +21,7 @@ enum class Screen {
     Criteria,
     WoodSelection,
     SteelSelection,
+    OwnSelection,
     TestReport,
     Settings,
     Notes,

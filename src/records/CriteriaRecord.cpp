@@ -290,7 +290,8 @@ void SettleEntries(const PackedRecord& record, BeamProblem& problem)
     } else if (problem.Support != SupportCondition::Overhanging) {
         problem.CantUBLtext.clear();
     }
-    if (const std::optional<std::string_view> fixed = FixedUnbracedLength(problem)) {
+    const std::optional<std::string_view> fixed = FixedUnbracedLength(problem);
+    if (fixed && problem.Combo1 != SpeciesGroup::Scl) {
         problem.UBLtext = *fixed;
     }
     if (!problem.Rep) {

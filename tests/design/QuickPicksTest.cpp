@@ -185,9 +185,7 @@ class PickFaceTest : public testing::TestWithParam<FaceCase> {};
 
 TEST_P(PickFaceTest, TellsWhatThePickMeans)
 {
-    BeamNumbers beam;
-    beam.Rep = GetParam().Rep;
-    const PickFace face = FaceOf(GetParam().Pick, beam);
+    const PickFace face = FaceOf(GetParam().Pick, SizeFamily::Listed, GetParam().Rep);
     EXPECT_EQ(face.Name, GetParam().FaceName);
     EXPECT_EQ(face.Tip, GetParam().Tip);
     EXPECT_EQ(face.IsFaded, GetParam().IsFaded);

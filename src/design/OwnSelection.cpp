@@ -1,0 +1,249 @@
+#include "design/OwnSelection.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <span>
+
+#include "core/NumberText.h"
+#include "design/CustomValues.h"
+#include "design/OnceUser.h"
+#include "design/Pretest.h"
+#include "materials/SclProducts.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view NoDepths =
+    "No beam depths in this breadth group meet the requirements (too large or too small).  You may enter a "
+    "specific depth to test, select a different breadth group, or specify new values for Fb, Fv, Fc, and E "
+    "above.";
+
+constexpr std::array<std::string_view, 5> DimensionPicks{"2x", "(2) 2x", "3x", "(3) 2x", "(4) 2x"};
+constexpr std::array<std::string_view, 1> FourInchPicks{"4x"};
+constexpr std::array<std::string_view, 5> TimberPicks{"6x", "8x", "10x", "12x", "14x"};
+constexpr std::array<std::string_view, 2> HeaderPicks{"3-1/2x", "5-1/2x"};
+
+std::span<const std::string_view> FamilyPicks(SizeFamily family)
+{
+    switch (family) {
+        case SizeFamily::Custom2x:
+            return DimensionPicks;
+        case SizeFamily::Custom4x:
+            return FourInchPicks;
+        case SizeFamily::CustomTimber:
+            return TimberPicks;
+        case SizeFamily::CustomGlulam:
+            return GlulamLadder;
+        case SizeFamily::CustomSouthernPineGlulam:
+            return SouthernPineGlulamLadder;
+        case SizeFamily::GlulamHeader:
+            return HeaderPicks;
+        case SizeFamily::Listed:
+        case SizeFamily::SouthernPineListed:
+        case SizeFamily::Composite:
+            break;
+    }
+    return {};
+}
+
+/// Timbers are offered by whole inches; their half inches can be typed.
+std::vector<DepthChoice> OfferedDepths(const MemberEntry& entry, SizeFamily family, const Breadth& breadth)
+{
+    if (family == SizeFamily::Composite) {
+        return SclDepths(entry.Product, breadth.Text);
+    }
+    std::vector<DepthChoice> depths = DepthsOf(family, breadth);
+    if (family == SizeFamily::CustomTimber) {
+        std::erase_if(depths,
+                      [](const DepthChoice& depth) { return depth.Text.find('-') != depth.Text.npos; });
+    }
+    return depths;
+}
+
+float RepetitiveFactor(const BeamNumbers& beam, const MemberEntry& entry)
+{
+    constexpr float lumber = 1.15F;
+    constexpr float composite = 1.04F;
+    if (!beam.Rep || entry.Custom.Roundoption) {
+        return 1;
+    }
+    if (beam.Group != SpeciesGroup::Scl) {
+        return lumber;
+    }
+    return SclProducts()[entry.Product].IsRepetitive ? composite : 1.0F;
+}
+
+/// Square of the least depth in bending, in2.
+double LeastSquare(const Session& session, const Breadth& breadth)
+{
+    const BeamNumbers& beam = session.Numbers;
+    const double M = std::max(session.Analysis.MaxMomentApplied, session.Analysis.OverhangMomentApplied);
+    const double FbStar =
+        ReadCustomValues(session.Entry.Custom).Fb * beam.Dur * RepetitiveFactor(beam, session.Entry);
+    return 72 * M / (breadth.Net * FbStar);  // S = b d^2 / 6 = 12 M / Fb
+}
+
+QuickPick FindPick(Session& session, std::string_view breadthText, UserPort& user)
+{
+    const SizeFamily family = FamilyOf(session.Entry, session.Numbers.Group);
+    QuickPick pick;
+    pick.BreadthText = breadthText;
+    const std::optional<Breadth> breadth = FindBreadth(family, breadthText);
+    if (!breadth) {
+        return pick;
+    }
+    const std::vector<DepthChoice> depths = OfferedDepths(session.Entry, family, *breadth);
+    const double square = LeastSquare(session, *breadth);
+    const auto start = std::find_if(depths.begin(), depths.end(), [square](const DepthChoice& depth) {
+        return depth.Net * depth.Net >= square;
+    });
+    MemberEntry entry = session.Entry;
+    entry.BreadthText = breadthText;
+    entry.DepthText = start == depths.end() ? depths.back().Text : start->Text;
+    pick.State = WalkToSmallest(session, entry, user);
+    if (pick.State == PickState::Filled) {
+        pick.DepthText = entry.DepthText;
+    }
+    return pick;
+}
+
+}  // namespace
+
+Outcome EnterValues(Session& session, UserPort& user, std::vector<QuickPick>& picks)
+{
+    picks = PicksWithoutValues(session);
+    if (CheckOwnValues(ReadCustomValues(session.Entry.Custom), user) != Outcome::Done ||
+        CheckSclExponent(session.Entry, session.Numbers.Group, user) != Outcome::Done) {
+        return Outcome::Refused;
+    }
+    const MemberTest tested = session.Member;
+    const AnalysisResult analysis = session.Analysis;
+    OnceUser once(user);
+    for (QuickPick& pick : picks) {
+        pick = FindPick(session, pick.BreadthText, once);
+    }
+    session.Member = tested;
+    session.Analysis = analysis;
+    return Outcome::Done;
+}
+
+std::vector<QuickPick> PicksWithoutValues(const Session& session)
+{
+    std::vector<QuickPick> picks;
+    for (const std::string_view breadth : OwnPickBreadths(session.Entry, session.Numbers.Group)) {
+        picks.emplace_back();
+        picks.back().BreadthText = breadth;
+        picks.back().State = PickState::NotEntered;
+    }
+    return picks;
+}
+
+std::vector<std::string_view> OwnPickBreadths(const MemberEntry& entry, SpeciesGroup group)
+{
+    if (group == SpeciesGroup::Scl) {
+        std::vector<std::string_view> breadths;
+        for (const SclSize& size : SclProducts()[entry.Product].Sizes) {
+            breadths.push_back(size.Breadth);
+        }
+        return breadths;
+    }
+    if (entry.Custom.Roundoption) {
+        return {};
+    }
+    const std::span<const std::string_view> picks = FamilyPicks(FamilyOf(entry, group));
+    return {picks.begin(), picks.end()};
+}
+
+std::vector<std::string_view> SuggestDepths(const Session& session)
+{
+    const SizeFamily family = FamilyOf(session.Entry, session.Numbers.Group);
+    const std::optional<Breadth> breadth = FindBreadth(family, session.Entry.BreadthText);
+    std::vector<std::string_view> depths;
+    if (!breadth || session.Entry.Custom.Roundoption || !(ReadCustomValues(session.Entry.Custom).Fb > 0)) {
+        return depths;
+    }
+    const double square = LeastSquare(session, *breadth);
+    for (const DepthChoice& depth : OfferedDepths(session.Entry, family, *breadth)) {
+        if (depth.Net * depth.Net >= square) {
+            depths.push_back(depth.Text);
+        }
+    }
+    return depths;
+}
+
+void TellNoDepths(const Session& session, const std::vector<std::string_view>& depths, UserPort& user)
+{
+    const SizeFamily family = FamilyOf(session.Entry, session.Numbers.Group);
+    if (depths.empty() && FindBreadth(family, session.Entry.BreadthText)) {
+        user.Tell(Alert(NoDepths));
+    }
+}
+
+void TakeOwnPick(MemberEntry& entry, const QuickPick& pick)
+{
+    if (!pick.DepthText.empty()) {
+        entry.BreadthText = pick.BreadthText;
+        entry.DepthText = pick.DepthText;
+    }
+}
+
+std::vector<std::string_view> OwnBreadthChoices(const MemberEntry& entry, SpeciesGroup group)
+{
+    std::vector<std::string_view> texts = OwnPickBreadths(entry, group);
+    for (const Breadth& breadth : BreadthsOf(FamilyOf(entry, group))) {
+        if (std::find(texts.begin(), texts.end(), breadth.Text) == texts.end()) {
+            texts.push_back(breadth.Text);
+        }
+    }
+    return texts;
+}
+
+std::vector<std::string_view> OwnDepthChoices(const MemberEntry& entry, SpeciesGroup group)
+{
+    const SizeFamily family = FamilyOf(entry, group);
+    const std::optional<Breadth> breadth = FindBreadth(family, entry.BreadthText);
+    std::vector<std::string_view> texts;
+    if (!breadth && family != SizeFamily::Composite) {
+        return texts;
+    }
+    const std::vector<DepthChoice> depths = family == SizeFamily::Composite
+                                                ? SclDepths(entry.Product, entry.BreadthText)
+                                                : DepthsOf(family, *breadth);
+    for (const DepthChoice& depth : depths) {
+        texts.push_back(depth.Text);
+    }
+    return texts;
+}
+
+bool HasAllValues(const MemberEntry& entry, SpeciesGroup group)
+{
+    const DesignValues values = ReadCustomValues(entry.Custom);
+    const bool isFamilyChosen = group == SpeciesGroup::Scl || entry.Custom.Roundoption ||
+                                FamilyOf(entry, group) != SizeFamily::Listed;
+    return isFamilyChosen && values.Fb > 0 && values.Fv > 0 && values.E > 0 && values.FcPerp > 0;
+}
+
+void DiscardOwnValues(MemberEntry& entry)
+{
+    entry.Custom = {};
+    entry.Product = 0;
+    entry.BreadthText.clear();
+    entry.DepthText.clear();
+    entry.SpeciesText.clear();
+}
+
+void ChooseFamily(MemberEntry& entry, bool CustomEntry::*family)
+{
+    for (bool CustomEntry::*const each : {&CustomEntry::Wid2x, &CustomEntry::Wid4x, &CustomEntry::Wid6x,
+                                          &CustomEntry::WidGLB, &CustomEntry::WidGLBHDR}) {
+        entry.Custom.*each = each == family;
+    }
+    entry.Custom.SPG = entry.Custom.SPG && entry.Custom.WidGLB;
+    entry.BreadthText.clear();
+    entry.DepthText.clear();
+}
+
+}  // namespace kordavan

@@ -1,0 +1,344 @@
+#include "forms/Form2.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "design/OwnScreen.h"
+#include "design/Selection.h"
+#include "forms/ChoiceBox.h"
+#include "forms/OwnPickRow.h"
+#include "forms/OwnSectionGroup.h"
+#include "forms/OwnValuesGroup.h"
+#include "records/CustomValuesFile.h"
+#include "records/SclFile.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view Page =
+    "SCL AND CUSTOM VALUES\n\n"
+    "Composite lumber: choose the product and enter the design values that its maker publishes. Save keeps "
+    "them for this product; Load brings them back.\n\n"
+    "Custom wood: choose Rectangular and a family of breadths, or Round and a diameter; then enter the "
+    "values "
+    "and what the record shall call the member. Save Values keeps them under a name.\n\n"
+    "Enter Values takes the values and shows, for each breadth, the smallest depth that passes. Pick one, or "
+    "type any breadth and depth, and press Enter or OK Test. Esc leads back to the criteria.";
+
+constexpr int SizeDigits = 12;
+
+}  // namespace
+
+Form2::Form2(Walk& walk)
+    : Form(walk, "Form2"),
+      numbers{.User = walk.User(), .CalculatorText = [&walk] { return walk.CalculatorText(); }},
+      context{.Owner = *this,
+              .Boxes = bindings,
+              .Numbers = numbers,
+              .Beam = walk.CurrentSession(),
+              .Apply = [this](const SessionChange& change) {
+                  const Outcome outcome = change(TheSession(), User());
+                  Refresh();
+                  return outcome;
+              }}
+{
+    BuildHeader();
+    BuildGroups();
+    BuildSizes();
+    BuildFoot();
+    BuildMenus();
+    OrderTabs();
+    connect(&bindings, &Bindings::Edited, this, &Form2::Refresh);
+    Refresh();
+}
+
+void Form2::Activate()
+{
+    const bool isNewAnalysis = analysisShown != TheWalk().AnalysisCount;
+    if (isNewAnalysis) {
+        analysisShown = TheWalk().AnalysisCount;
+        StartOver();
+    }
+    ShowHeader();
+    Refresh();
+    if (isNewAnalysis) {
+        FocusOnStart();
+    }
+}
+
+QAbstractButton* Form2::DefaultCommand()
+{
+    return AreValuesEntered() ? test : &values->EnterCommand();
+}
+
+void Form2::GoBack()
+{
+    TheWalk().Go(Screen::Criteria);
+}
+
+void Form2::BuildHeader()
+{
+    valuesInUse = MakePanel("LabelINGRADE");
+    moment = MakeNamedLabel("MOMENT");
+    firstReaction = MakeNamedLabel("Reac1");
+    secondReaction = MakeNamedLabel("Reac2");
+    auto* const line = new QHBoxLayout;
+    line->setSpacing(DigitsWidth(*this, 4));
+    line->addWidget(valuesInUse, 1);
+    for (QLabel* const load : {moment, firstReaction, secondReaction}) {
+        load->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        line->addWidget(load);
+    }
+    Body().addLayout(line);
+    Body().addWidget(MakeRule());
+}
+
+void Form2::BuildGroups()
+{
+    section = new OwnSectionGroup(context);
+    values = new OwnValuesGroup(context);
+    pickRow = new OwnPickRow;
+    connect(section, &OwnSectionGroup::ProductChosen, this, &Form2::ChooseProduct);
+    connect(values, &OwnValuesGroup::LoadAsked, this, &Form2::LoadValues);
+    connect(values, &OwnValuesGroup::SaveAsked, this, &Form2::SaveValues);
+    connect(values, &OwnValuesGroup::EnterAsked, this, &Form2::OnEnterValues);
+    connect(pickRow, &OwnPickRow::Picked, this, &Form2::OnPick);
+    connect(pickRow, &OwnPickRow::DepthPicked, this, &Form2::OnDepth);
+    auto* const groups = new QHBoxLayout;
+    groups->addWidget(section, 1);
+    groups->addWidget(values, 1);
+    Body().addLayout(groups);
+    Body().addSpacing(fontMetrics().height() / 2);
+    Body().addWidget(pickRow);
+}
+
+void Form2::BuildSizes()
+{
+    MemberEntry& entry = TheSession().Entry;
+    breadth =
+        new ChoiceBox({.Name = "Text6", .Tip = "Breadth to test, exactly as listed (Down key)"}, SizeDigits);
+    depth =
+        new ChoiceBox({.Name = "Text7", .Tip = "Depth to test, exactly as listed (Down key)"}, SizeDigits);
+    bindings.Bind(*breadth, entry.BreadthText);
+    bindings.Bind(*depth, entry.DepthText);
+    sizeHint = MakeNamedLabel("Label20");
+    sizes = new QWidget;
+    auto* const line = new QHBoxLayout(sizes);
+    line->setContentsMargins(0, 0, 0, 0);
+    for (const auto& [caption, box] : {std::pair{"Breadth", breadth}, std::pair{"&Depth", depth}}) {
+        line->addWidget(MakeCaption(caption, *box));
+        line->addWidget(box);
+        box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+    line->addWidget(sizeHint, 1);
+    KeepPlace(*sizes);
+    Body().addWidget(sizes);
+    Body().addStretch(1);
+}
+
+void Form2::BuildFoot()
+{
+    panel = MakePanel("WoodStatisPanel");
+    test = MakeButton({.Name = "CmdTest", .Tip = "Tests the member and shows the report"}, "OK &Test");
+    connect(test, &QPushButton::clicked, this, &Form2::OnTest);
+    Foot().addWidget(panel, 1);
+    Foot().addWidget(test);
+}
+
+void Form2::BuildMenus()
+{
+    QMenu& file = AddMenu("&File");
+    loadFile = &AddCommand(file, {"MnuLoadCustom", "Values of a saved species and grade"}, "&Load Values...",
+                           [this] { LoadFile(); });
+    AddCommand(file, {"MnuSaveCustom", "Saves the values of custom wood under a name"}, "&Save Values...",
+               [this] { SaveFile(); });
+    AddExitCommand(file);
+    QMenu& goTo = AddMenu("&Go to");
+    AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
+    AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
+               [this] { TheWalk().Go(Screen::Criteria); });
+    AddToolsMenu();
+    AddHelpMenu(Page);
+}
+
+void Form2::OrderTabs()
+{
+    ChainTabStops({section, values, pickRow, breadth, depth, test});
+}
+
+/// The values of a product are read from its file; those of custom wood are still there.
+void Form2::StartOver()
+{
+    Session& session = TheSession();
+    entered.reset();
+    if (session.Numbers.Group == SpeciesGroup::Scl) {
+        LoadProduct();
+    }
+    session.Entry.BreadthText.clear();
+    session.Entry.DepthText.clear();
+    picks = PicksWithoutValues(session);
+    if (HasAllValues(session.Entry, session.Numbers.Group)) {
+        OnEnterValues();
+    }
+}
+
+void Form2::Refresh()
+{
+    const Session& session = TheSession();
+    const OwnScreen screen = DescribeOwnScreen(session);
+    bindings.Show();
+    setWindowTitle(Text(screen.Title));
+    section->ShowScreen(screen);
+    values->ShowScreen(screen);
+    if (!AreValuesEntered()) {
+        picks = PicksWithoutValues(session);
+    }
+    pickRow->ShowPicks(picks, session);
+    pickRow->ShowDepths(AreValuesEntered() ? SuggestDepths(session) : std::vector<std::string_view>{});
+    ShowSizes(screen);
+    loadFile->setEnabled(!screen.IsComposite);
+    values->EnterCommand().setDefault(!AreValuesEntered());
+    test->setDefault(AreValuesEntered());
+}
+
+void Form2::ShowHeader()
+{
+    const SelectionTexts texts = MakeSelectionTexts(TheSession());
+    valuesInUse->setText(Text(texts.LabelINGRADE));
+    moment->setText(Text(texts.MOMENT));
+    firstReaction->setText(Text(texts.Reac1));
+    secondReaction->setText(Text(texts.Reac2));
+    panel->setText(Text(texts.WoodStatisPanel));
+}
+
+void Form2::ShowSizes(const OwnScreen& screen)
+{
+    const Session& session = TheSession();
+    sizes->setVisible(!screen.IsRound);
+    sizeHint->setText(Text(screen.SizeHint));
+    breadth->SetChoices(OwnBreadthChoices(session.Entry, session.Numbers.Group));
+    depth->SetChoices(OwnDepthChoices(session.Entry, session.Numbers.Group));
+}
+
+bool Form2::AreValuesEntered() const
+{
+    const MemberEntry& entry = context.Beam.Entry;
+    return entered && entered->Custom == entry.Custom && entered->Product == entry.Product;
+}
+
+void Form2::FocusOnStart()
+{
+    if (!AreValuesEntered() || !pickRow->FocusFirst()) {
+        FocusOn("Text1");
+    }
+}
+
+void Form2::ChooseProduct(int product)
+{
+    TheSession().Entry.Product = static_cast<std::size_t>(product);
+    LoadProduct();
+    Refresh();
+}
+
+void Form2::LoadProduct()
+{
+    MemberEntry& entry = TheSession().Entry;
+    const SclValues saved = LoadSclValues(TheWalk().Desktop().FixedFilesFolder(), entry.Product, User());
+    entry.Custom.Fb = saved.Fb;
+    entry.Custom.Fv = saved.Fv;
+    entry.Custom.E = saved.E;
+    entry.Custom.FcPerp = saved.FcPerp;
+    entry.Custom.Exponent = saved.Exponent;
+    entry.SpeciesText = saved.Name;
+}
+
+void Form2::LoadValues()
+{
+    if (TheSession().Numbers.Group == SpeciesGroup::Scl) {
+        LoadProduct();
+        Refresh();
+    } else {
+        LoadFile();
+    }
+}
+
+void Form2::SaveValues()
+{
+    if (TheSession().Numbers.Group == SpeciesGroup::Scl) {
+        SaveProduct();
+    } else {
+        SaveFile();
+    }
+}
+
+void Form2::SaveProduct()
+{
+    const MemberEntry& entry = TheSession().Entry;
+    SaveSclValues(TheWalk().Desktop().FixedFilesFolder(), entry.Product,
+                  {.Fb = entry.Custom.Fb,
+                   .Fv = entry.Custom.Fv,
+                   .E = entry.Custom.E,
+                   .FcPerp = entry.Custom.FcPerp,
+                   .Exponent = entry.Custom.Exponent,
+                   .Name = entry.SpeciesText},
+                  User());
+}
+
+void Form2::LoadFile()
+{
+    if (const std::optional<std::string> path = TheWalk().Desktop().AskOpenFile(OpenCustomValuesDialog)) {
+        LoadCustomValues(TheSession(), *path, User());
+        Refresh();
+    }
+}
+
+void Form2::SaveFile()
+{
+    if (CheckCustomValuesSavable(TheSession(), User()) != Outcome::Done) {
+        return;
+    }
+    if (const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SaveCustomValuesDialog)) {
+        SaveCustomValues(TheSession(), *path, User());
+    }
+}
+
+void Form2::OnEnterValues()
+{
+    Session& session = TheSession();
+    if (EnterValues(session, User(), picks) == Outcome::Done) {
+        entered = EnteredValues{session.Entry.Custom, session.Entry.Product};
+        TellNoDepths(session, SuggestDepths(session), User());
+        Refresh();
+        pickRow->FocusFirst();
+    } else {
+        entered.reset();
+        Refresh();
+    }
+}
+
+void Form2::OnPick(std::size_t index)
+{
+    TakeOwnPick(TheSession().Entry, picks[index]);
+    Refresh();
+    test->setFocus(Qt::OtherFocusReason);
+}
+
+void Form2::OnDepth(const QString& text)
+{
+    TheSession().Entry.DepthText = Text(text);
+    Refresh();
+    test->setFocus(Qt::OtherFocusReason);
+}
+
+void Form2::OnTest()
+{
+    if (TestEntered(TheSession(), User()) == Outcome::Done) {
+        TheWalk().Go(Screen::TestReport);
+    }
+}
+
+}  // namespace kordavan

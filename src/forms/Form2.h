@@ -1,0 +1,91 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "design/OwnSelection.h"
+#include "forms/Bindings.h"
+#include "forms/EntryGroup.h"
+#include "forms/Form.h"
+
+class QLabel;
+class QPushButton;
+
+namespace kordavan {
+
+class ChoiceBox;
+class OwnPickRow;
+class OwnSectionGroup;
+class OwnValuesGroup;
+
+/// The selection of a member of the user's own values: composite lumber or custom wood.
+class Form2 : public Form {
+    Q_OBJECT
+
+public:
+    explicit Form2(Walk& walk);
+
+    /// Finds the quick picks anew after each analysis, where the values are there.
+    void Activate() override;
+
+protected:
+    QAbstractButton* DefaultCommand() override;
+    void GoBack() override;
+
+private:
+    void BuildHeader();
+    void BuildGroups();
+    void BuildSizes();
+    void BuildFoot();
+    void BuildMenus();
+    void OrderTabs();
+
+    void StartOver();
+    void Refresh();
+    void ShowHeader();
+    void ShowSizes(const OwnScreen& screen);
+    bool AreValuesEntered() const;
+    void FocusOnStart();
+
+    void ChooseProduct(int product);
+    void LoadProduct();
+    void LoadValues();
+    void SaveValues();
+    void SaveProduct();
+    void LoadFile();
+    void SaveFile();
+    void OnEnterValues();
+    void OnPick(std::size_t index);
+    void OnDepth(const QString& depth);
+    void OnTest();
+
+    Bindings bindings;
+    NumericBoxContext numbers;
+    GroupContext context;
+    std::vector<QuickPick> picks;
+    int analysisShown = 0;
+
+    /// What the picks were found for.
+    struct EnteredValues {
+        CustomEntry Custom;
+        std::size_t Product;
+    };
+    std::optional<EnteredValues> entered;
+
+    QLabel* valuesInUse = nullptr;
+    QLabel* moment = nullptr;
+    QLabel* firstReaction = nullptr;
+    QLabel* secondReaction = nullptr;
+    OwnSectionGroup* section = nullptr;
+    OwnValuesGroup* values = nullptr;
+    OwnPickRow* pickRow = nullptr;
+    QWidget* sizes = nullptr;
+    ChoiceBox* breadth = nullptr;
+    ChoiceBox* depth = nullptr;
+    QLabel* sizeHint = nullptr;
+    QAction* loadFile = nullptr;
+    QLabel* panel = nullptr;
+    QPushButton* test = nullptr;
+};
+
+}  // namespace kordavan
