@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <string_view>
 
 #include "core/NumberText.h"
 
@@ -13,10 +12,9 @@ namespace kordavan {
 
 namespace {
 
-struct OwnValue {
+struct OwnValueCheck {
     float Value;
-    std::string_view MissingText;
-    std::string_view Box;
+    OwnValue Needed;
 };
 
 float FiniteValue(const std::string& text)
@@ -48,15 +46,15 @@ Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user
         return Outcome::Done;
     }
     const std::array checks{
-        OwnValue{values->Fb, "Please enter a value for the Fb.", "Text1"},
-        OwnValue{values->Fv, "Please enter a value for the Fv.", "Text2"},
-        OwnValue{values->E, "Please enter a value for the E.", "Text4"},
-        OwnValue{static_cast<float>(values->FcPerp), "Please enter a value for the Fc.", "Text3"},
+        OwnValueCheck{values->Fb, OwnValues::Fb},
+        OwnValueCheck{values->Fv, OwnValues::Fv},
+        OwnValueCheck{values->E, OwnValues::E},
+        OwnValueCheck{static_cast<float>(values->FcPerp), OwnValues::FcPerp},
     };
-    const auto* const missing =
-        std::find_if(checks.begin(), checks.end(), [](const OwnValue& check) { return !(check.Value > 0); });
+    const auto* const missing = std::find_if(checks.begin(), checks.end(),
+                                             [](const OwnValueCheck& check) { return !(check.Value > 0); });
     return missing == checks.end() ? Outcome::Done
-                                   : Refuse(user, Refusal(missing->MissingText, missing->Box));
+                                   : Refuse(user, Refusal(missing->Needed.MissingText, missing->Needed.Box));
 }
 
 }  // namespace kordavan
