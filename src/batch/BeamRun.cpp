@@ -20,20 +20,6 @@ constexpr std::array<std::string_view, 7> BeamFields{"task",   "id",     "editio
                                                      "member", "answer", "stations"};
 constexpr std::array<std::string_view, 5> CriteriaTaskFields{"task", "id", "edition", "criteria", "answer"};
 
-Edition EditionOf(const JsonValue& request)
-{
-    const JsonValue* const year = FindMember(request, "edition");
-    if (year == nullptr) {
-        return Edition::Nds2018;
-    }
-    const FieldPath path("edition");
-    const Edition edition = EditionOfYear(TextOf(*year, path));
-    if (edition == Edition::None) {
-        path.Fail("\"1997\", \"2001\", \"2005\", \"2012\", \"2015\" or \"2018\" is expected");
-    }
-    return edition;
-}
-
 bool AnswersYes(const JsonValue& request)
 {
     const JsonValue* const answer = FindMember(request, "answer");
@@ -128,6 +114,20 @@ Outcome RunSteelScan(const JsonValue& request, BeamRun& run)
         FieldPath("criteria").Field("Combo1").Fail("the steel group (9) is expected");
     }
     return Calculate(run) == Outcome::Done ? OpenSteelSelection(run.Work, run.User) : Outcome::Refused;
+}
+
+Edition EditionOf(const JsonValue& request)
+{
+    const JsonValue* const year = FindMember(request, "edition");
+    if (year == nullptr) {
+        return Edition::Nds2018;
+    }
+    const FieldPath path("edition");
+    const Edition edition = EditionOfYear(TextOf(*year, path));
+    if (edition == Edition::None) {
+        path.Fail("\"1997\", \"2001\", \"2005\", \"2012\", \"2015\" or \"2018\" is expected");
+    }
+    return edition;
 }
 
 std::string_view TaskOf(const JsonValue& request)

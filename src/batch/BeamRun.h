@@ -30,6 +30,9 @@ Outcome RunSteelScan(const JsonValue& request, BeamRun& run);
 /// Runs the hips and valleys tool alone. Throws InvalidRequest.
 Outcome RunHipValley(const JsonValue& request, BeamRun& run);
 
+/// The edition a request names, 2018 where it names none. Throws InvalidRequest.
+Edition EditionOf(const JsonValue& request);
+
 /// The task a request names. Throws InvalidRequest when it names none.
 std::string_view TaskOf(const JsonValue& request);
 

@@ -5,12 +5,17 @@
 #include <string_view>
 
 #include "batch/AnswerOutcome.h"
+#include "batch/BeamRun.h"
 #include "batch/CollectingUser.h"
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
+#include "records/CustomValuesFile.h"
+#include "records/CustomValuesLayout.h"
 #include "records/DefaultsFile.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecordFile.h"
+#include "records/SclFile.h"
+#include "records/SclLayout.h"
 
 namespace kordavan {
 
@@ -26,14 +31,22 @@ struct RecordKind {
     const RecordLayout* Layout;
     std::int16_t Tag;
     Outcome (*CheckTag)(const PackedRecord& record, UserPort& user);
-    void (*TellLoaded)(const PackedRecord& record, UserPort& user);
+    void (*TellLoaded)(const PackedRecord& record, const Session& session, UserPort& user);
 };
 
-void TellNothing(const PackedRecord& /*record*/, UserPort& /*user*/) {}
+void TellNothing(const PackedRecord& /*record*/, const Session& /*session*/, UserPort& /*user*/) {}
+
+void TellCriteria(const PackedRecord& record, const Session& /*session*/, UserPort& user)
+{
+    TellCriteriaEdition(record, user);
+}
 
 constexpr std::array Kinds{
-    RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteriaEdition},
+    RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteria},
+    RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValuesTag, TellCustomValues},
     RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},
+    RecordKind{"scl", &SclLayout, SclTag, CheckSclTag, TellNothing},
+    RecordKind{"scl-custom", &CustomSclLayout, CustomSclTag, CheckCustomSclTag, TellNothing},
 };
 
 const JsonValue& Needed(const JsonValue& request, std::string_view name)
@@ -67,10 +80,21 @@ std::string PathOf(const JsonValue& request)
     return std::string(text);
 }
 
+bool IsArray(const RecordField& field)
+{
+    return field.Count > 1 || field.Type == FieldType::Part;
+}
+
+void WriteRecord(const PackedRecord& record, AnswerWriter& answer);
+
 void WriteElement(const PackedRecord& record, const RecordField& field, std::size_t index,
                   AnswerWriter& answer)
 {
-    if (field.Type == FieldType::Text) {
+    if (field.Type == FieldType::Part) {
+        answer.BeginObject();
+        WriteRecord(record.Part(field.Name, index), answer);
+        answer.EndObject();
+    } else if (field.Type == FieldType::Text) {
         answer.Item(record.Text(field.Name, index));
     } else {
         answer.Item(record.Float(field.Name, index));
@@ -79,7 +103,7 @@ void WriteElement(const PackedRecord& record, const RecordField& field, std::siz
 
 void WriteField(const PackedRecord& record, const RecordField& field, AnswerWriter& answer)
 {
-    if (field.Count > 1) {
+    if (IsArray(field)) {
         answer.BeginArray(field.Name);
         for (std::size_t k = 0; k < field.Count; ++k) {
             WriteElement(record, field, k, answer);
@@ -100,8 +124,31 @@ void WriteField(const PackedRecord& record, const RecordField& field, AnswerWrit
         case FieldType::Text:
             answer.Field(field.Name, record.Text(field.Name));
             break;
+        case FieldType::Part:
         case FieldType::Reserved:
             break;
+    }
+}
+
+void WriteRecord(const PackedRecord& record, AnswerWriter& answer)
+{
+    for (const RecordField& field : record.Layout().Fields) {
+        WriteField(record, field, answer);
+    }
+}
+
+void FillRecord(PackedRecord& record, const JsonValue& fields, const FieldPath& path);
+
+void SetPart(PackedRecord& record, const RecordField& field, std::size_t index, const JsonValue& value,
+             const FieldPath& path)
+{
+    const PackedRecord blank(*field.PartLayout);
+    PackedRecord part = blank;
+    FillRecord(part, value, path);
+    if (field.Holds(index)) {
+        record.SetPart(field.Name, index, part);
+    } else if (part.Bytes() != blank.Bytes()) {
+        path.Fail("zeros are expected, as this record does not hold these values");
     }
 }
 
@@ -121,6 +168,9 @@ void SetElement(PackedRecord& record, const RecordField& field, std::size_t inde
         case FieldType::Text:
             record.SetText(field.Name, TextOf(value, path), index);
             break;
+        case FieldType::Part:
+            SetPart(record, field, index, value, path);
+            break;
         case FieldType::Reserved:
             break;
     }
@@ -128,7 +178,7 @@ void SetElement(PackedRecord& record, const RecordField& field, std::size_t inde
 
 void SetField(PackedRecord& record, const RecordField& field, const JsonValue& value, const FieldPath& path)
 {
-    if (field.Count == 1) {
+    if (!IsArray(field)) {
         SetElement(record, field, 0, value, path);
         return;
     }
@@ -139,23 +189,25 @@ void SetField(PackedRecord& record, const RecordField& field, const JsonValue& v
     }
 }
 
-PackedRecord RecordOf(const JsonValue& request, const RecordKind& kind)
+void FillRecord(PackedRecord& record, const JsonValue& fields, const FieldPath& path)
 {
-    PackedRecord record(*kind.Layout);
-    record.SetInteger(TagField, kind.Tag);
-    const JsonValue* const fields = FindMember(request, "fields");
-    if (fields == nullptr) {
-        return record;
-    }
-    const FieldPath path("fields");
-    for (const JsonValue::Member& member : ObjectOf(*fields, path).GetObject()) {
+    for (const JsonValue::Member& member : ObjectOf(fields, path).GetObject()) {
         const std::string_view name = NameOf(member);
         const FieldPath fieldPath = path.Field(name);
-        const RecordField* const field = FindRecordField(*kind.Layout, name);
+        const RecordField* const field = FindRecordField(record.Layout(), name);
         if (field == nullptr) {
             fieldPath.Fail("no such field");
         }
         SetField(record, *field, member.value, fieldPath);
+    }
+}
+
+PackedRecord RecordOf(const JsonValue& request, const RecordKind& kind)
+{
+    PackedRecord record(*kind.Layout);
+    record.SetInteger(TagField, kind.Tag);
+    if (const JsonValue* const fields = FindMember(request, "fields")) {
+        FillRecord(record, *fields, FieldPath("fields"));
     }
     return record;
 }
@@ -167,20 +219,20 @@ void AnswerReadRecord(const JsonValue& request, const JsonValue* id, AnswerWrite
     RefuseUnknownFields(request, ReadFields);
     const RecordKind& kind = KindOf(request);
     const std::string path = PathOf(request);
+    Session session;
+    session.Nds = EditionFlags(EditionOf(request));
     CollectingUser user;
     const FileRead file = ReadRecordFile(path);
     const PackedRecord record(*kind.Layout, file.Bytes.value_or(std::string{}));
     const Outcome outcome = file.Bytes ? kind.CheckTag(record, user) : RefuseReading(path, file.Fault, user);
     if (outcome == Outcome::Done) {
-        kind.TellLoaded(record, user);
+        kind.TellLoaded(record, session, user);
     }
     answer.BeginObject();
     WriteOutcome(id, user, outcome == Outcome::Done, answer);
     if (outcome == Outcome::Done) {
         answer.BeginObject("fields");
-        for (const RecordField& field : kind.Layout->Fields) {
-            WriteField(record, field, answer);
-        }
+        WriteRecord(record, answer);
         answer.EndObject();
         answer.Field("bytes", static_cast<double>(file.Bytes->size()));
     }

@@ -5,10 +5,8 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
-#include <string_view>
 
 #include "core/NumberText.h"
-#include "materials/SclProducts.h"
 
 namespace kordavan {
 
@@ -17,10 +15,9 @@ namespace {
 constexpr std::string_view UnfitExponent =
     "Please enter a decimal value for the Cf Size factor that is less than one.";
 
-struct OwnValue {
+struct OwnValueCheck {
     float Value;
-    std::string_view MissingText;
-    std::string_view Box;
+    OwnValue Needed;
 };
 
 float FiniteValue(const std::string& text)
@@ -46,12 +43,10 @@ DesignValues ReadCustomValues(const CustomEntry& custom)
             .E = FiniteValue(custom.E)};
 }
 
-Outcome CheckSclExponent(const MemberEntry& entry, SpeciesGroup group, UserPort& user)
+Outcome CheckSclExponent(std::string_view exponent, UserPort& user)
 {
-    const std::string& exponent = entry.Custom.Exponent;
-    const bool isAsked = group == SpeciesGroup::Scl && IsCustomScl(entry.Product);
-    const bool isFit = IsNumeric(exponent) && Val(exponent) >= 0 && Val(exponent) < 1;
-    return !isAsked || isFit ? Outcome::Done : Refuse(user, Refusal(UnfitExponent, "Text8"));
+    const bool isFit = IsNumeric(exponent) && Val(exponent) >= 0 && Single(Val(exponent)) < 1;
+    return isFit ? Outcome::Done : Refuse(user, Refusal(UnfitExponent, "Text8"));
 }
 
 Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user)
@@ -60,15 +55,15 @@ Outcome CheckOwnValues(const std::optional<DesignValues>& values, UserPort& user
         return Outcome::Done;
     }
     const std::array checks{
-        OwnValue{values->Fb, "Please enter a value for the Fb.", "Text1"},
-        OwnValue{values->Fv, "Please enter a value for the Fv.", "Text2"},
-        OwnValue{values->E, "Please enter a value for the E.", "Text4"},
-        OwnValue{static_cast<float>(values->FcPerp), "Please enter a value for the Fc.", "Text3"},
+        OwnValueCheck{values->Fb, OwnValues::Fb},
+        OwnValueCheck{values->Fv, OwnValues::Fv},
+        OwnValueCheck{values->E, OwnValues::E},
+        OwnValueCheck{static_cast<float>(values->FcPerp), OwnValues::FcPerp},
     };
-    const auto* const missing =
-        std::find_if(checks.begin(), checks.end(), [](const OwnValue& check) { return !(check.Value > 0); });
+    const auto* const missing = std::find_if(checks.begin(), checks.end(),
+                                             [](const OwnValueCheck& check) { return !(check.Value > 0); });
     return missing == checks.end() ? Outcome::Done
-                                   : Refuse(user, Refusal(missing->MissingText, missing->Box));
+                                   : Refuse(user, Refusal(missing->Needed.MissingText, missing->Needed.Box));
 }
 
 }  // namespace kordavan

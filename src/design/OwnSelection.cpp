@@ -115,8 +115,10 @@ QuickPick FindPick(Session& session, std::string_view breadthText, UserPort& use
 Outcome EnterValues(Session& session, UserPort& user, std::vector<QuickPick>& picks)
 {
     picks = PicksWithoutValues(session);
-    if (CheckOwnValues(ReadCustomValues(session.Entry.Custom), user) != Outcome::Done ||
-        CheckSclExponent(session.Entry, session.Numbers.Group, user) != Outcome::Done) {
+    const MemberEntry& entry = session.Entry;
+    const bool needsExponent = session.Numbers.Group == SpeciesGroup::Scl && IsCustomScl(entry.Product);
+    if (CheckOwnValues(ReadCustomValues(entry.Custom), user) != Outcome::Done ||
+        (needsExponent && CheckSclExponent(entry.Custom.Exponent, user) != Outcome::Done)) {
         return Outcome::Refused;
     }
     const MemberTest tested = session.Member;

@@ -143,7 +143,7 @@ void Form2::BuildSizes()
 void Form2::BuildFoot()
 {
     panel = MakePanel("WoodStatisPanel");
-    test = MakeButton({.Name = "CmdTest", .Tip = "Tests the member and shows the report"}, "OK &Test");
+    test = MakeButton({.Name = "CmdTest", .Tip = "Tests the member and shows the report"}, "O&K Test");
     connect(test, &QPushButton::clicked, this, &Form2::OnTest);
     Foot().addWidget(panel, 1);
     Foot().addWidget(test);

@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "design/OwnScreen.h"
 #include "design/OwnSelection.h"
 #include "forms/Bindings.h"
 #include "forms/EntryGroup.h"

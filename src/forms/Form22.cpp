@@ -29,6 +29,8 @@ constexpr std::string_view Page =
 constexpr HelpText UnbracedHelp{"Command3D1", "Lc and Lu lengths", SteelScreenTexts::UnbracedHelp};
 constexpr HelpText FormatHelp{"Command3D2", "Format of a size", SteelScreenTexts::FormatHelp};
 
+constexpr std::string_view UnusedLine = "No further shape passes";
+
 constexpr int MostSizeCharacters = 40;
 constexpr int PickDigits = 22;
 constexpr int SizeDigits = 10;
@@ -165,7 +167,7 @@ void Form22::AddLine(QGridLayout& grid, std::size_t index)
 
 void Form22::BuildPaging()
 {
-    firstPage = MakeButton({.Name = "Backbutton", .Tip = "The first eight shapes (Page Up)"}, "&First Page");
+    firstPage = MakeButton({.Name = "Backbutton", .Tip = "The first eight shapes (Page Up)"}, "Fi&rst Page");
     moreShapes =
         MakeButton({.Name = "Morebutton", .Tip = "The next eight shapes (Page Down)"}, "&More Shapes");
     page = MakeNamedLabel("PageLabel");
@@ -261,6 +263,7 @@ void Form22::ShowLine(const Line& line, const SteelSlot* slot)
     const SteelSlot shown = slot == nullptr ? SteelSlot{} : *slot;
     line.StlPick->setText(Text(shown.StlPick));
     line.StlPick->setEnabled(slot != nullptr);
+    line.StlPick->setAccessibleName(slot == nullptr ? line.StlPick->objectName() : QString{});
     line.StlDepLab->setText(Text(shown.StlDepLab));
     line.StlWidLab->setText(Text(shown.StlWidLab));
     line.UBLlab->setText(Text(shown.UBLlab));
@@ -268,7 +271,7 @@ void Form22::ShowLine(const Line& line, const SteelSlot* slot)
     line.SectionBar->Show(RatioOf(shown.StlSecPerct), false);
     line.StlShearPerct->setText(Text(shown.StlShearPerct));
     line.ShearBar->Show(RatioOf(shown.StlShearPerct), false);
-    const std::string facts = slot == nullptr ? "" : DescribeSlot(*slot);
+    const std::string facts = slot == nullptr ? std::string(UnusedLine) : DescribeSlot(*slot);
     line.StlPick->setAccessibleDescription(Text(facts));
     line.StlPick->setToolTip(Text(facts));
 }

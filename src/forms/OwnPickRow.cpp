@@ -20,11 +20,15 @@ OwnPickRow::OwnPickRow()
 {
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(MakeHeading("Quick picks: smallest depth that passes"));
+    heading = MakeHeading("Quick picks: smallest depth that passes");
+    KeepPlace(*heading);
+    column->addWidget(heading);
     auto* const grid = new QGridLayout;
     for (std::size_t k = 0; k < picks.size(); ++k) {
         breadths[k] = MakeNamedLabel(Text(ArrayName("LVLab", k)));
         picks[k] = new PickCell(ArrayName("LVLbut", k));
+        picks[k]->setAccessibleName(QStringLiteral("Quick pick %1").arg(k + 1));
+        picks[k]->setToolTip(picks[k]->accessibleName());
         connect(picks[k], &QPushButton::clicked, this, [this, k] { Q_EMIT Picked(k); });
         grid->addWidget(breadths[k], 0, static_cast<int>(k), Qt::AlignHCenter);
         grid->addWidget(picks[k], 1, static_cast<int>(k));
@@ -40,6 +44,7 @@ OwnPickRow::OwnPickRow()
     for (std::size_t k = 0; k < depthButtons.size(); ++k) {
         const std::string name = Text(ArrayName("ButG", k));
         depthButtons[k] = MakeButton({.Name = name, .Tip = "Puts this depth into the box below"}, "");
+        depthButtons[k]->setAccessibleName(QStringLiteral("Suggested depth %1").arg(k + 1));
         depthButtons[k]->setFixedWidth(DigitsWidth(*this, DepthDigits));
         connect(depthButtons[k], &QPushButton::clicked, this,
                 [this, k] { Q_EMIT DepthPicked(depthButtons[k]->text()); });
@@ -52,6 +57,7 @@ OwnPickRow::OwnPickRow()
 
 void OwnPickRow::ShowPicks(const std::vector<QuickPick>& found, const Session& session)
 {
+    heading->setVisible(!found.empty());
     const SizeFamily family = FamilyOf(session.Entry, session.Numbers.Group);
     for (std::size_t k = 0; k < picks.size(); ++k) {
         const bool isUsed = k < found.size();
@@ -74,6 +80,7 @@ void OwnPickRow::ShowDepths(const std::vector<std::string_view>& depths)
         depthButtons[k]->setVisible(k < depths.size());
         if (k < depths.size()) {
             depthButtons[k]->setText(Text(depths[k]));
+            depthButtons[k]->setAccessibleName(QStringLiteral("Depth %1").arg(Text(depths[k])));
         }
     }
 }

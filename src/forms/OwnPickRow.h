@@ -34,6 +34,7 @@ Q_SIGNALS:
 private:
     std::array<QLabel*, OwnPickCount> breadths{};
     std::array<PickCell*, OwnPickCount> picks{};
+    QLabel* heading = nullptr;
     QLabel* depthsCaption = nullptr;
     std::array<QPushButton*, SuggestedDepthCount> depthButtons{};
 };

@@ -62,8 +62,8 @@ void OwnSectionGroup::ShowScreen(const OwnScreen& screen)
 QWidget* OwnSectionGroup::MakeProductPage()
 {
     auto* const page = new QWidget;
-    auto* const grid = new QGridLayout(page);
-    grid->setContentsMargins(0, 0, 0, 0);
+    auto* const lines = new QGridLayout(page);
+    lines->setContentsMargins(0, 0, 0, 0);
     products = new QComboBox;
     Describe(*products, {.Name = "Combo1", .Tip = "Product of composite lumber"});
     IgnoreStrayWheel(*products);
@@ -76,28 +76,28 @@ QWidget* OwnSectionGroup::MakeProductPage()
     note->setWordWrap(true);
     note->setMinimumWidth(DigitsWidth(*note, NoteDigits));
     note->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    grid->addWidget(MakeCaption("&Product", *products), 0, 0);
-    grid->addWidget(products, 0, 1);
-    grid->addWidget(makersLine, 1, 1);
-    grid->addWidget(note, 2, 0, 1, 2);
-    grid->setColumnStretch(1, 1);
-    grid->setRowStretch(2, 1);
+    lines->addWidget(MakeCaption("&Product", *products), 0, 0);
+    lines->addWidget(products, 0, 1);
+    lines->addWidget(makersLine, 1, 1);
+    lines->addWidget(note, 2, 0, 1, 2);
+    lines->setColumnStretch(1, 1);
+    lines->setRowStretch(2, 1);
     return page;
 }
 
 QWidget* OwnSectionGroup::MakeWoodPage()
 {
     auto* const page = new QWidget;
-    auto* const grid = new QGridLayout(page);
-    grid->setContentsMargins(0, 0, 0, 0);
-    AddShapes(*grid);
-    AddFamilies(*grid);
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(static_cast<int>(FamilyRows.size()) + 1, 1);
+    auto* const lines = new QGridLayout(page);
+    lines->setContentsMargins(0, 0, 0, 0);
+    AddShapes(*lines);
+    AddFamilies(*lines);
+    lines->setColumnStretch(2, 1);
+    lines->setRowStretch(static_cast<int>(FamilyRows.size()) + 1, 1);
     return page;
 }
 
-void OwnSectionGroup::AddShapes(QGridLayout& grid)
+void OwnSectionGroup::AddShapes(QGridLayout& lines)
 {
     CustomEntry& custom = Shared().Beam.Entry.Custom;
     auto* const shapes = new QButtonGroup(this);
@@ -118,12 +118,12 @@ void OwnSectionGroup::AddShapes(QGridLayout& grid)
     line->addWidget(diameter);
     line->addWidget(MakeLabel("in."));
     line->addStretch(1);
-    grid.addWidget(rectangular, 0, 0);
-    grid.addLayout(line, 0, 1, 1, 2);
-    grid.addWidget(duration, 1, 1, 1, 2);
+    lines.addWidget(rectangular, 0, 0);
+    lines.addLayout(line, 0, 1, 1, 2);
+    lines.addWidget(duration, 1, 1, 1, 2);
 }
 
-void OwnSectionGroup::AddFamilies(QGridLayout& grid)
+void OwnSectionGroup::AddFamilies(QGridLayout& lines)
 {
     CustomEntry& custom = Shared().Beam.Entry.Custom;
     auto* const options = new QButtonGroup(this);
@@ -135,12 +135,16 @@ void OwnSectionGroup::AddFamilies(QGridLayout& grid)
         connect(families[k], &QRadioButton::clicked, this, [this, family = row.Family] {
             Change([family](Session& session) { ChooseFamily(session.Entry, family); });
         });
-        grid.addWidget(families[k], static_cast<int>(k) + 1, 0);
+        auto* const indented = new QHBoxLayout;
+        constexpr int indent = 18;
+        indented->addSpacing(indent);
+        indented->addWidget(families[k]);
+        lines.addLayout(indented, static_cast<int>(k) + 1, 0);
     }
     laminations = AddCheck({.Name = "SPG", .Tip = "Glu-lams of Southern Pine laminations, 1-3/8 in. each"},
                            "So. Pine laminations, 1-3/8 in.", custom.SPG);
     constexpr int glulamLine = 4;
-    grid.addWidget(laminations, glulamLine, 1, 1, 2);
+    lines.addWidget(laminations, glulamLine, 1, 1, 2);
 }
 
 }  // namespace kordavan

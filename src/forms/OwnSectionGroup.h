@@ -25,8 +25,8 @@ Q_SIGNALS:
 private:
     QWidget* MakeProductPage();
     QWidget* MakeWoodPage();
-    void AddShapes(QGridLayout& grid);
-    void AddFamilies(QGridLayout& grid);
+    void AddShapes(QGridLayout& lines);
+    void AddFamilies(QGridLayout& lines);
 
     QStackedWidget* faces;
     QComboBox* products = nullptr;

@@ -27,6 +27,8 @@ OwnValuesGroup::OwnValuesGroup(const GroupContext& context)
     AddGrades(context.Beam.Entry.Custom);
     AddCommands();
     constexpr int gap = 16;
+    constexpr int captionDigits = 24;
+    Grid().setColumnMinimumWidth(FirstColumn, DigitsWidth(*this, captionDigits));
     Grid().setColumnMinimumWidth(SecondColumn - 1, gap);
     Grid().setColumnStretch(LastColumn, 1);
 }
@@ -43,6 +45,7 @@ void OwnValuesGroup::ShowScreen(const OwnScreen& screen)
         grade->setVisible(!screen.IsComposite);
     }
     warning->setText(Text(screen.GradeWarning));
+    warning->setVisible(!screen.GradeWarning.empty());
     for (QPushButton* const command : {load, save}) {
         command->setVisible(screen.IsComposite);
     }

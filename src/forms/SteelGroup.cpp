@@ -76,7 +76,7 @@ void SteelGroup::AddFilters(BeamProblem& problem)
     }
     Shared().Boxes.Bind(*depth, problem.DepCombo);
     Grid().addWidget(AddCheck({.Name = "ksi50", .Tip = "Yield stress 50 ksi instead of 36, 46 of tubes"},
-                              "Use 5&0 ksi Values", problem.ksi50),
+                              "Use 50 ksi Values", problem.ksi50),
                      GradeLine, SecondColumn);
     Grid().addWidget(MakeCaption("Maximum depth, in.", *depth), DepthLine, 0);
     Grid().addWidget(depth, DepthLine, SecondColumn);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -11,10 +10,10 @@
 #include <variant>
 
 #include "core/CriteriaFields.h"
-#include "core/NumberText.h"
 #include "design/EntryAdjustment.h"
 #include "design/LoadTools.h"
 #include "design/UnbracedEntry.h"
+#include "records/BoxNumbers.h"
 #include "records/CriteriaLayout.h"
 
 namespace kordavan {
@@ -116,6 +115,7 @@ private:
                 WriteInteger(text);
                 break;
             case FieldType::Flag:
+            case FieldType::Part:
             case FieldType::Reserved:
                 break;
         }
@@ -123,27 +123,23 @@ private:
 
     void WriteFloat(const std::string& text, std::size_t index)
     {
-        float value = Single(Val(text));
-        if (!std::isfinite(value)) {
+        const std::optional<float> held = HeldFloat(text);
+        if (!held) {
             NoteUnfit(index);
             return;
         }
-        if (field->Name == StartBox && !text.empty() && value == 0) {
-            value = HeldZeroStart;
-        }
-        record.SetFloat(field->Name, value, index);
+        const bool isZeroStart = field->Name == StartBox && !text.empty() && *held == 0;
+        record.SetFloat(field->Name, isZeroStart ? HeldZeroStart : *held, index);
     }
 
     void WriteInteger(const std::string& text)
     {
-        const double value = Val(text);
-        const bool fits = value == std::trunc(value) && value >= std::numeric_limits<std::int16_t>::min() &&
-                          value <= std::numeric_limits<std::int16_t>::max();
-        if (!fits) {
+        const std::optional<std::int16_t> held = HeldInteger(text);
+        if (!held) {
             NoteUnfit(0);
             return;
         }
-        record.SetInteger(field->Name, static_cast<std::int16_t>(value));
+        record.SetInteger(field->Name, *held);
     }
 
     void NoteUnfit(std::size_t index)
@@ -226,7 +222,7 @@ private:
             return record.Text(field->Name, index);
         }
         if (field->Type == FieldType::Integer) {
-            return FormatNumber(static_cast<double>(record.Integer(field->Name)), "#");
+            return BoxText(record.Integer(field->Name));
         }
         const float value = record.Float(field->Name, index);
         if (!std::isfinite(value)) {
@@ -239,7 +235,7 @@ private:
         if (field->Name == "Dur" && value == 1) {
             return "1.00";
         }
-        return value == 0 ? std::string{} : PlainNumber(value);
+        return BoxText(value);
     }
 
     void NoteAbsurd()

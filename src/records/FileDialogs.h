@@ -26,4 +26,17 @@ inline constexpr FileDialogText SaveCriteriaDialog{.Title = "Save Beam Criteria 
                                                    .Filters = CriteriaFilters,
                                                    .SelectedFilter = 2};
 
+inline constexpr std::string_view CustomValuesFilters = "All Files (*.*)|*.*|Kordavan Files (*.Val)|*.Val|";
+
+inline constexpr FileDialogText OpenCustomValuesDialog{.Title = "Open Custom Value File",
+                                                       .FileName = "*.Val",
+                                                       .DefaultExtension = {},
+                                                       .Filters = CustomValuesFilters,
+                                                       .SelectedFilter = 2};
+inline constexpr FileDialogText SaveCustomValuesDialog{.Title = "Save Custom Values As",
+                                                       .FileName = "*.Val",
+                                                       .DefaultExtension = "VAL",
+                                                       .Filters = CustomValuesFilters,
+                                                       .SelectedFilter = 2};
+
 }  // namespace kordavan

@@ -44,16 +44,16 @@ const RecordField* FindRecordField(const RecordLayout& layout, std::string_view 
 PackedRecord::PackedRecord(const RecordLayout& recordLayout)
     : layout(&recordLayout), bytes(recordLayout.Size, '\0')
 {
-    FillTextsWithBlanks();
+    for (const RecordField& field : layout->Fields) {
+        FillWithBlanks(field);
+    }
 }
 
 PackedRecord::PackedRecord(const RecordLayout& recordLayout, std::string_view fileBytes)
     : PackedRecord(recordLayout)
 {
     for (const RecordField& field : layout->Fields) {
-        const std::size_t held = fileBytes.size() > field.Offset ? fileBytes.size() - field.Offset : 0;
-        const std::size_t whole = std::min(held / field.Length, field.Count) * field.Length;
-        bytes.replace(field.Offset, whole, fileBytes.substr(std::min(field.Offset, fileBytes.size()), whole));
+        Fill(field, fileBytes.substr(std::min(field.Offset, fileBytes.size())));
     }
 }
 
@@ -76,6 +76,14 @@ std::string PackedRecord::Text(std::string_view name, std::size_t index) const
     return TextOfAnsi(text);
 }
 
+PackedRecord PackedRecord::Part(std::string_view name, std::size_t index) const
+{
+    const RecordField& field = FieldOfParts(name, index);
+    return field.Holds(index) ? PackedRecord(*field.PartLayout,
+                                             std::string_view(bytes).substr(field.Place(index), field.Length))
+                              : PackedRecord(*field.PartLayout);
+}
+
 void PackedRecord::SetInteger(std::string_view name, std::int16_t value)
 {
     WriteLittleEndian(std::bit_cast<std::uint16_t>(value), bytes.data() + Place(name, 0));
@@ -93,13 +101,21 @@ void PackedRecord::SetText(std::string_view name, std::string_view text, std::si
     bytes.replace(Place(name, index), ansi.size(), ansi);
 }
 
+void PackedRecord::SetPart(std::string_view name, std::size_t index, const PackedRecord& part)
+{
+    if (FieldOfParts(name, index).PartLayout != part.layout) {
+        throw std::out_of_range("no part of the record's " + std::string(name));
+    }
+    bytes.replace(Place(name, index), part.bytes.size(), part.bytes);
+}
+
 std::size_t PackedRecord::Place(std::string_view name, std::size_t index) const
 {
     const RecordField& field = Field(name);
-    if (index >= field.Count) {
+    if (!field.Holds(index)) {
         throw std::out_of_range("no such element of the record's " + std::string(name));
     }
-    return field.Offset + index * field.Length;
+    return field.Place(index);
 }
 
 const RecordField& PackedRecord::Field(std::string_view name) const
@@ -111,12 +127,37 @@ const RecordField& PackedRecord::Field(std::string_view name) const
     return *field;
 }
 
-void PackedRecord::FillTextsWithBlanks()
+const RecordField& PackedRecord::FieldOfParts(std::string_view name, std::size_t index) const
 {
-    for (const RecordField& field : layout->Fields) {
-        if (field.Type == FieldType::Text) {
-            bytes.replace(field.Offset, field.Length * field.Count, field.Length * field.Count, Blank);
-        }
+    const RecordField& field = Field(name);
+    if (field.Type != FieldType::Part || index >= field.Count) {
+        throw std::out_of_range("no such part of the record's " + std::string(name));
+    }
+    return field;
+}
+
+void PackedRecord::FillWithBlanks(const RecordField& field)
+{
+    const std::size_t size = field.End() - field.Offset;
+    if (field.Type == FieldType::Text) {
+        bytes.replace(field.Offset, size, size, Blank);
+    }
+    if (field.Type == FieldType::Part) {
+        Fill(field, {});
+    }
+}
+
+/// @param held  what there is of the field, and perhaps more
+void PackedRecord::Fill(const RecordField& field, std::string_view held)
+{
+    if (field.Type != FieldType::Part) {
+        const std::size_t whole = std::min(held.size() / field.Length, field.HeldCount()) * field.Length;
+        bytes.replace(field.Offset, whole, held.substr(0, whole));
+        return;
+    }
+    for (std::size_t at = field.Offset; at < field.End(); at += field.Length) {
+        bytes.replace(at, field.Length, PackedRecord(*field.PartLayout, held).bytes);
+        held.remove_prefix(std::min(field.Length, held.size()));
     }
 }
 

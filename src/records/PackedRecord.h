@@ -9,8 +9,16 @@
 namespace kordavan {
 
 /// How a field of a packed record is stored: integers of 16 bits, flags as integers of 0 and -1, floats of 32
-/// bits, all little-endian; texts in Windows ANSI, filled up with blanks.
-enum class FieldType { Integer, Flag, Float, Text, Reserved };
+/// bits, all little-endian; texts in Windows ANSI, filled up with blanks; parts with fields of their own.
+enum class FieldType { Integer, Flag, Float, Text, Part, Reserved };
+
+struct RecordLayout;
+
+/// Elements of an array that are counted but have no bytes in the record.
+struct ArrayGap {
+    std::size_t First = 0;
+    std::size_t Count = 0;
+};
 
 /// One field, or an array of such fields, of a packed record.
 struct RecordField {
@@ -19,8 +27,22 @@ struct RecordField {
     std::size_t Offset;  // bytes from the beginning of the file
     std::size_t Length;  // bytes of one element
     std::size_t Count = 1;
+    const RecordLayout* PartLayout = nullptr;  // of each element, where they are parts
+    ArrayGap Gap{};
 
-    constexpr std::size_t End() const { return Offset + Length * Count; }
+    constexpr std::size_t HeldCount() const { return Count - Gap.Count; }
+    constexpr std::size_t End() const { return Offset + Length * HeldCount(); }
+
+    constexpr bool Holds(std::size_t index) const
+    {
+        return index < Count && (index < Gap.First || index >= Gap.First + Gap.Count);
+    }
+
+    /// Where an element begins that the record holds.
+    constexpr std::size_t Place(std::size_t index) const
+    {
+        return Offset + Length * (index < Gap.First ? index : index - Gap.Count);
+    }
 };
 
 constexpr RecordField IntegerField(std::string_view name, std::size_t offset)
@@ -54,19 +76,41 @@ struct RecordLayout {
     std::size_t Size;
     std::span<const RecordField> Fields;
 
-    /// True when each field begins where the one before ends, and the last ends the record.
+    /// True when each field begins where the one before ends, and the last ends the record; the same of the
+    /// parts within.
     constexpr bool IsWhole() const
     {
         std::size_t end = 0;
         for (const RecordField& field : Fields) {
-            if (field.Offset != end) {
+            if (field.Offset != end || !HasWholeElements(field)) {
                 return false;
             }
             end = field.End();
         }
         return end == Size;
     }
+
+private:
+    static constexpr bool HasWholeElements(const RecordField& field)
+    {
+        const bool isPart = field.Type == FieldType::Part;
+        return field.Gap.First + field.Gap.Count <= field.Count && isPart == (field.PartLayout != nullptr) &&
+               (!isPart || (field.PartLayout->Size == field.Length && field.PartLayout->IsWhole()));
+    }
 };
+
+/// An array of parts, but for those in the gap.
+constexpr RecordField PartField(std::string_view name, std::size_t offset, const RecordLayout& part,
+                                std::size_t count, ArrayGap gap = {})
+{
+    return {.Name = name,
+            .Type = FieldType::Part,
+            .Offset = offset,
+            .Length = part.Size,
+            .Count = count,
+            .PartLayout = &part,
+            .Gap = gap};
+}
 
 /// The field of this name, or none.
 const RecordField* FindRecordField(const RecordLayout& layout, std::string_view name);
@@ -78,8 +122,8 @@ public:
     /// All texts blank, all numbers 0.
     explicit PackedRecord(const RecordLayout& recordLayout);
 
-    /// As much of the record as there is; an element cut by the end reads as blank. What lies behind the
-    /// record is none of it.
+    /// As much of the record as there is; an element cut by the end reads as blank, a part from its cut
+    /// element on. What lies behind the record is none of it.
     PackedRecord(const RecordLayout& recordLayout, std::string_view fileBytes);
 
     const RecordLayout& Layout() const { return *layout; }
@@ -92,6 +136,9 @@ public:
     /// UTF-8, without the blanks at its end.
     std::string Text(std::string_view name, std::size_t index = 0) const;
 
+    /// One part as a record of its own; a blank one from the gap of its array.
+    PackedRecord Part(std::string_view name, std::size_t index) const;
+
     void SetInteger(std::string_view name, std::int16_t value);
     void SetFlag(std::string_view name, bool value) { SetInteger(name, value ? FlagOn : FlagOff); }
     void SetFloat(std::string_view name, float value, std::size_t index = 0);
@@ -99,13 +146,17 @@ public:
     /// Cut at the length of the field.
     void SetText(std::string_view name, std::string_view text, std::size_t index = 0);
 
+    void SetPart(std::string_view name, std::size_t index, const PackedRecord& part);
+
 private:
     static constexpr std::int16_t FlagOff = 0;
     static constexpr std::int16_t FlagOn = -1;
 
     std::size_t Place(std::string_view name, std::size_t index) const;
     const RecordField& Field(std::string_view name) const;
-    void FillTextsWithBlanks();
+    const RecordField& FieldOfParts(std::string_view name, std::size_t index) const;
+    void FillWithBlanks(const RecordField& field);
+    void Fill(const RecordField& field, std::string_view held);
 
     const RecordLayout* layout;
     std::string bytes;

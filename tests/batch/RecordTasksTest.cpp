@@ -102,6 +102,114 @@ TEST(ReadRecord, TakesAShortFileAsFarAsItGoes)
     EXPECT_THAT(text, testing::EndsWith(R"(},"bytes":95})"));
 }
 
+RecordBytes CustomValuesBytes()
+{
+    RecordBytes bytes(66);
+    bytes.Short(0, -1).Float(2, 2400).Float(6, 265.5F).Float(10, 650).Float(14, 1.8F);
+    return bytes.Blanks(18, 30).Text(18, "24F-V4 \xBD").On(54).On(62);
+}
+
+constexpr std::string_view CustomValuesFields =
+    R"("Fb":2400,"Fv":265.5,"FcPerp":650,"E":1.8,"SpeciesText":"24F-V4 ½","CustomIngradeSP":false,)"
+    R"("Wid2x":false,"Wid4x":false,"Wid6x":true,"WidGLB":false,"WidGLBHDR":false,"Roundoption":false,)"
+    R"("MSRCheckbox":true,"MELCheckbox":false)";
+
+TEST(ReadRecord, AsksAboutTheEditionOfCustomValues)
+{
+    const TemporaryFolder folder;
+    PutFile(folder.Path("a.Val"), CustomValuesBytes().All());
+    EXPECT_EQ(
+        Answer(LineWith(R"({"task":"read-record","edition":"2015","kind":"custom-values","path":"PATH"})",
+                        folder.Path("a.Val"))),
+        R"({"status":"done","messages":[{"kind":"question","title":"Kordavan Courtesy Alert",)"
+        R"("text":"Courtesy Alert:      Are you loading NDS 2015 VALUES?\n)"
+        R"(Kordavan is currently set to calculate using NDS 2005 procedures.\n)"
+        R"(IF these are NOT NDS 2015 values, either revise these values or change the correct NDS )"
+        R"(Version."}],"fields":{"RecordTag":-1,)" +
+            std::string(CustomValuesFields) + R"(},"bytes":66})");
+}
+
+/// So many products as they are written and read, all zeros.
+std::string ZeroProducts(int count)
+{
+    std::string products;
+    for (int k = 0; k < count; ++k) {
+        products += R"({"Fb":0,"Fv":0,"E":0,"FcPerp":0},)";
+    }
+    return products;
+}
+
+RecordBytes SclBytes()
+{
+    RecordBytes bytes(244);
+    bytes.Short(0, 113).Short(4, 2800).Short(6, -285).Float(8, 2.1F).Short(12, 32767);
+    return bytes.Short(224, 22).Short(234, 25).Float(238, 1.8F);
+}
+
+std::string SclFields()
+{
+    return R"("Products":[{"Fb":2800,"Fv":-285,"E":2.1,"FcPerp":32767},)" + ZeroProducts(21) +
+           R"({"Fb":22,"Fv":0,"E":0,"FcPerp":0},)" + ZeroProducts(2) +
+           R"({"Fb":25,"Fv":0,"E":1.8,"FcPerp":0}])";
+}
+
+RecordBytes CustomSclBytes()
+{
+    RecordBytes bytes(92);
+    bytes.Short(0, 2000).Blanks(18, 30).Short(48, 2650).Short(50, 290).Float(52, 1.9F).Short(56, 750);
+    return bytes.Float(58, 0.125F).Blanks(62, 30).Text(62, "Caf\xE9 LVL");
+}
+
+std::string CustomSclFields()
+{
+    return R"("Products":[{"Fb":0,"Fv":0,"E":0,"FcPerp":0,"Exponent":0,"Name":""},)"
+           R"({"Fb":2650,"Fv":290,"E":1.9,"FcPerp":750,"Exponent":0.125,"Name":"Café LVL"}])";
+}
+
+struct WholeRecordCase {
+    std::string_view Name;
+    std::string_view Kind;
+    int Tag;
+    std::string Fields;
+    std::string Bytes;
+};
+
+class WholeRecordTest : public testing::TestWithParam<WholeRecordCase> {};
+
+TEST_P(WholeRecordTest, IsWrittenAsItIsRead)
+{
+    const WholeRecordCase& c = GetParam();
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a");
+    const std::string kind = R"(-record","kind":")" + std::string(c.Kind) + R"(","path":"PATH")";
+    const std::string bytes = R"("bytes":)" + std::to_string(c.Bytes.size()) + "}";
+    EXPECT_EQ(Answer(LineWith(R"({"task":"write)" + kind + R"(,"fields":{)" + c.Fields + "}}", path)),
+              R"({"status":"done","messages":[],)" + bytes);
+    EXPECT_EQ(FirstDifference(FileBytes(path), c.Bytes), "");
+    EXPECT_THAT(Answer(LineWith(R"({"task":"read)" + kind + "}", path)),
+                testing::EndsWith(R"(,"fields":{"RecordTag":)" + std::to_string(c.Tag) + "," + c.Fields +
+                                  "}," + bytes));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, WholeRecordTest,
+    testing::Values(WholeRecordCase{"custom values", "custom-values", -1, std::string(CustomValuesFields),
+                                    CustomValuesBytes().All()},
+                    WholeRecordCase{"listed products", "scl", 113, SclFields(), SclBytes().All()},
+                    WholeRecordCase{"own products", "scl-custom", 2000, CustomSclFields(),
+                                    CustomSclBytes().All()}),
+    CaseName);
+
+TEST(WriteRecord, LeavesProductsBlankThatAreNotGiven)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a");
+    Answer(LineWith(R"({"task":"write-record","kind":"scl","path":"PATH","fields":{"RecordTag":114,)"
+                    R"("Products":[{},{"FcPerp":750}]}})",
+                    path));
+    EXPECT_EQ(FirstDifference(FileBytes(path), RecordBytes(244).Short(0, 114).Short(22, 750).All()), "");
+}
+
 struct WrongKindCase {
     std::string_view Kind;
     std::string Bytes;
@@ -137,6 +245,13 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongKindCase{"criteria", "", NotCriteriaText},
                     WrongKindCase{"defaults", BlankCriteria(-2007).All(),
                                   "A new Default Values file has been created for you.  You may set your "},
+                    WrongKindCase{
+                        "custom-values", CustomValuesBytes().Short(0, 1).All(),
+                        "The selected file does not contain Kordavan Custom Values.  Please check "},
+                    WrongKindCase{"scl", CustomSclBytes().All(),
+                                  "Kordavan23.LVL does not contain Kordavan SCL Values.  "},
+                    WrongKindCase{"scl-custom", SclBytes().All(),
+                                  "KordavanCustom.LVL does not contain Kordavan SCL Values.  "},
                     WrongKindCase{"defaults", "", "A new Default Values file has been created for you.  "}));
 
 TEST(ReadRecord, RefusesAFileThatCannotBeReadAndMakesNone)
@@ -250,6 +365,9 @@ INSTANTIATE_TEST_SUITE_P(
                                 "path: a text is expected"},
                     InvalidCase{R"({"task":"read-record","kind":"criteria","path":"PATH","fields":{}})",
                                 "fields: no such field in this task"},
+                    InvalidCase{R"({"task":"read-record","kind":"scl","path":"PATH","edition":"1999"})",
+                                R"(edition: \"1997\", \"2001\", \"2005\", \"2012\", \"2015\" or \"2018\" )"
+                                R"(is expected)"},
                     InvalidCase{R"({"task":"write-record","path":"PATH"})", "kind: missing"},
                     InvalidCase{R"({"task":"write-record","kind":"Criteria","path":"PATH"})",
                                 "kind: no such kind of record"},
@@ -308,6 +426,23 @@ INSTANTIATE_TEST_SUITE_P(
                          "fields.MaxDefl: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"criteria", R"({"RecordTag":-32769})",
                          "fields.RecordTag: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"custom-values", R"({"SPG":true})", "fields.SPG: no such field"},
+        InvalidFieldCase{"custom-values", R"({"Fb":"2400"})",
+                         "fields.Fb: a number that a 32-bit float can hold is expected"},
+        InvalidFieldCase{"scl", R"({"Products":{}})", "fields.Products: an array is expected"},
+        InvalidFieldCase{"scl-custom", R"({"Products":[{},{},{}]})",
+                         "fields.Products: at most 2 items are expected"},
+        InvalidFieldCase{"scl", R"({"Products":[{},5]})", "fields.Products[1]: an object is expected"},
+        InvalidFieldCase{"scl", R"({"Products":[{"Name":""}]})", "fields.Products[0].Name: no such field"},
+        InvalidFieldCase{"scl", R"({"Products":[{},{"Fv":285.5}]})",
+                         "fields.Products[1].Fv: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"scl-custom", R"({"Products":[{"Exponent":1e39}]})",
+                         "fields.Products[0].Exponent: a number that a 32-bit float can hold is expected"},
+        InvalidFieldCase{
+            "scl",
+            R"({"Products":[{},{},{},{},{},{},{},{},{},{},{},{},{},{},{},{},{},{},{},)"
+            R"({},{},{},{},{},{"E":2}]})",
+            "fields.Products[24]: zeros are expected, as this record does not hold these values"},
         InvalidFieldCase{"defaults", R"({"CenterFormCheckbox":true})",
                          "fields.CenterFormCheckbox: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"defaults", R"({"Livedefault":[0,0,0,0,-1e39]})",

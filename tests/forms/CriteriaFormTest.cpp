@@ -363,7 +363,7 @@ TEST_F(CriteriaFormTest, OffersTheMaterialsThatHaveAScreen)
     Key(Qt::Key_Down);
     EXPECT_EQ(session.Problem.Combo1, SpeciesGroup::CedarWesternWoods);
     EXPECT_EQ(LabelText("SavePanel"), "   Selection:  None");
-    EXPECT_EQ(material.count(), 8);
+    EXPECT_EQ(material.count(), 10);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <QSet>
 
 #include "forms/WalkFixture.h"
+#include "materials/SclProducts.h"
 
 namespace kordavan {
 namespace {
@@ -100,8 +101,18 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
     Click("OHbutton");
     Click("CalcPSFPartial");
     EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty());
-    for (const Screen screen : {Screen::WoodSelection, Screen::TestReport, Screen::Settings, Screen::Notes,
-                                Screen::Calculator, Screen::SimpleDiagram}) {
+    session.Problem.Combo1 = session.Numbers.Group = SpeciesGroup::Steel;
+    Click("SimpleSpanbutton");
+    EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty());
+    for (const SpeciesGroup group : {SpeciesGroup::Custom, SpeciesGroup::Scl}) {
+        session.Numbers.Group = group;
+        session.Entry.Product = FirstCustomScl;
+        Form& form = walk.FormOf(Screen::OwnSelection);
+        form.Activate();
+        EXPECT_THAT(DoubledMnemonics(form), testing::IsEmpty());
+    }
+    for (const Screen screen : {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport,
+                                Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
 }
@@ -116,8 +127,9 @@ QString SpokenName(const QWidget& control)
 
 TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
-    for (const Screen screen : {Screen::Criteria, Screen::WoodSelection, Screen::TestReport, Screen::Settings,
-                                Screen::Notes, Screen::Calculator, Screen::OverhangDiagram}) {
+    for (const Screen screen :
+         {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
+          Screen::TestReport, Screen::Settings, Screen::Notes, Screen::Calculator, Screen::OverhangDiagram}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {

@@ -9,10 +9,14 @@
 #include "records/CriteriaFile.h"
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
+#include "records/CustomValuesFile.h"
+#include "records/CustomValuesLayout.h"
 #include "records/DefaultsFile.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecentFiles.h"
 #include "records/RecordBytes.h"
+#include "records/SclFile.h"
+#include "records/SclLayout.h"
 
 namespace kordavan {
 namespace {
@@ -123,7 +127,8 @@ TEST(HostileFiles, AreRecordsOfSomeKind)
     HostileFiles files;
     std::size_t letters = 0;
     for (int round = 0; round < Rounds; ++round) {
-        for (const RecordLayout* layout : {&CriteriaLayout, &DefaultsLayout}) {
+        for (const RecordLayout* layout :
+             {&CriteriaLayout, &DefaultsLayout, &CustomValuesLayout, &SclLayout, &CustomSclLayout}) {
             const std::string bytes = files.AnyBytes(2000);
             const PackedRecord record(*layout, bytes);
             ASSERT_EQ(record.Bytes().size(), layout->Size);
@@ -211,6 +216,56 @@ TEST(HostileFiles, GiveDefaultsThatABeamCanBeginWith)
         IsCalculated(session);
     }
     EXPECT_GT(taken, Rounds / 4);
+}
+
+void ExpectNumberOrNothing(const std::string& text)
+{
+    EXPECT_TRUE(text.empty() || IsNumeric(text)) << text;
+}
+
+TEST(HostileFiles, GiveCustomValuesThatCanBeSavedAgain)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("odd.VAL");
+    HostileFiles files;
+    int loaded = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        PutNew(path, files.AnyFile(80, CustomValuesTag));
+        Session session;
+        session.Entry.Custom.Fb = "as it was";
+        RefusingUser user;
+        if (LoadCustomValues(session, path, user) == Outcome::Refused) {
+            ASSERT_EQ(session.Entry.Custom.Fb, "as it was");
+            continue;
+        }
+        ++loaded;
+        for (const auto text : {&CustomEntry::Fb, &CustomEntry::Fv, &CustomEntry::FcPerp, &CustomEntry::E}) {
+            ExpectNumberOrNothing(session.Entry.Custom.*text);
+        }
+        ASSERT_EQ(MakeCustomValuesRecord(session.Entry).UnfitBox, "");
+    }
+    EXPECT_GT(loaded, Rounds / 4);
+}
+
+TEST(HostileFiles, GiveSclValuesThatBoxesCanShow)
+{
+    const TemporaryFolder folder;
+    HostileFiles files;
+    int held = 0;
+    for (int round = 0; round < Rounds / 3; ++round) {
+        PutNew(folder.Path(SclFileName), files.AnyFile(300, SclTag));
+        PutNew(folder.Path(CustomSclFileName), files.AnyFile(120, CustomSclTag));
+        for (const std::size_t product : {0, 22, 23, 24, 25}) {
+            RefusingUser user;
+            const SclValues values = LoadSclValues(folder.Path(), product, user);
+            for (const auto text :
+                 {&SclValues::Fb, &SclValues::Fv, &SclValues::E, &SclValues::FcPerp, &SclValues::Exponent}) {
+                ExpectNumberOrNothing(values.*text);
+            }
+            held += values.Fb.empty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(held, Rounds / 3);
 }
 
 TEST(HostileFiles, MakeAListOfAtMostEight)

@@ -24,6 +24,25 @@ static_assert(!RecordLayout{.Size = 5, .Fields = GapFields}.IsWhole());
 static_assert(!RecordLayout{.Size = 5, .Fields = OverlapFields}.IsWhole());
 static_assert(!RecordLayout{.Size = 36, .Fields = Fields}.IsWhole());
 
+constexpr std::array PlyFields{IntegerField("Fb", 0), TextField("Name", 2, 3)};
+constexpr RecordLayout Ply{.Size = 5, .Fields = PlyFields};
+constexpr std::array PliesFields{
+    IntegerField("Tag", 0),
+    PartField("Plies", 2, Ply, 4, {.First = 1, .Count = 2}),
+    FloatField("End", 12),
+};
+constexpr RecordLayout Plies{.Size = 16, .Fields = PliesFields};
+static_assert(Plies.IsWhole());
+
+constexpr RecordLayout LongPly{.Size = 6, .Fields = PlyFields};
+constexpr std::array LongPlyFields{PartField("Plies", 0, LongPly, 1)};
+constexpr std::array WideGapFields{PartField("Plies", 0, Ply, 4, {.First = 3, .Count = 2})};
+constexpr std::array NoLayoutFields{
+    RecordField{.Name = "Plies", .Type = FieldType::Part, .Offset = 0, .Length = 5}};
+static_assert(!RecordLayout{.Size = 6, .Fields = LongPlyFields}.IsWhole());
+static_assert(!RecordLayout{.Size = 10, .Fields = WideGapFields}.IsWhole());
+static_assert(!RecordLayout{.Size = 5, .Fields = NoLayoutFields}.IsWhole());
+
 constexpr std::string_view HandBytes(
     "\x29\xF8"  // -2007
     "Oak  "     //
@@ -134,6 +153,56 @@ TEST(PackedRecord, TakesAnyNumberButZeroForTrue)
         EXPECT_TRUE(record.Flag("Wet")) << held;
     }
     EXPECT_FALSE(PackedRecord(Layout, RecordBytes(35).All()).Flag("Wet"));
+}
+
+constexpr std::string_view PliesBytes(
+    "\x01\x00"  //
+    "\x02\x00"
+    "ab "  //
+    "\x03\x00"
+    "cde"  //
+    "\x00\x00\xC8\x42",
+    16);
+
+TEST(PackedRecord, GivesItsPartsAndNoneOfTheGap)
+{
+    const PackedRecord record(Plies, PliesBytes);
+    EXPECT_EQ(FirstDifference(record.Bytes(), PliesBytes), "");
+    EXPECT_EQ(record.Part("Plies", 0).Integer("Fb"), 2);
+    EXPECT_EQ(record.Part("Plies", 0).Text("Name"), "ab");
+    EXPECT_EQ(record.Part("Plies", 3).Integer("Fb"), 3);
+    EXPECT_EQ(record.Part("Plies", 3).Text("Name"), "cde");
+    EXPECT_EQ(FirstDifference(record.Part("Plies", 1).Bytes(), std::string_view("\0\0   ", 5)), "");
+    EXPECT_EQ(FirstDifference(record.Part("Plies", 2).Bytes(), std::string_view("\0\0   ", 5)), "");
+}
+
+TEST(PackedRecord, WritesItsPartsOneByOne)
+{
+    PackedRecord record(Plies);
+    EXPECT_EQ(FirstDifference(record.Bytes(), RecordBytes(16).Blanks(4, 3).Blanks(9, 3).All()), "");
+    PackedRecord ply(Ply);
+    ply.SetInteger("Fb", 3);
+    ply.SetText("Name", "cdef");
+    record.SetPart("Plies", 3, ply);
+    EXPECT_EQ(FirstDifference(record.Bytes(), RecordBytes(16).Blanks(4, 3).Short(7, 3).Text(9, "cde").All()),
+              "");
+    EXPECT_THROW(record.SetPart("Plies", 1, ply), std::out_of_range);  // in the gap
+    EXPECT_THROW(record.SetPart("Plies", 4, ply), std::out_of_range);
+    EXPECT_THROW(record.SetPart("End", 0, ply), std::out_of_range);
+    EXPECT_THROW(record.SetPart("Plies", 0, PackedRecord(Layout)), std::out_of_range);
+    EXPECT_THROW(record.Part("Plies", 4), std::out_of_range);
+    EXPECT_THROW(record.Part("Tag", 0), std::out_of_range);
+}
+
+TEST(PackedRecord, IsBlankFromTheCutElementOfAPartOn)
+{
+    const std::string blank = PackedRecord(Plies).Bytes();
+    constexpr std::array<CutCase, 7> cuts{{{3, 2}, {4, 4}, {6, 4}, {7, 7}, {8, 7}, {9, 9}, {15, 12}}};
+    for (const auto [length, whole] : cuts) {
+        const PackedRecord record(Plies, PliesBytes.substr(0, length));
+        const std::string expected = std::string(PliesBytes.substr(0, whole)) + blank.substr(whole);
+        EXPECT_EQ(FirstDifference(record.Bytes(), expected), "") << length;
+    }
 }
 
 TEST(PackedRecord, RefusesNamesAndPlacesThatItHasNot)
