@@ -40,6 +40,7 @@ OwnPickRow::OwnPickRow()
 
     auto* const line = new QHBoxLayout;
     depthsCaption = MakeNamedLabel("DepthsCaption", "Depths of the breadth below that suit the moment:");
+    KeepPlace(*depthsCaption);
     line->addWidget(depthsCaption);
     for (std::size_t k = 0; k < depthButtons.size(); ++k) {
         const std::string name = Text(ArrayName("ButG", k));
@@ -75,7 +76,7 @@ void OwnPickRow::ShowPicks(const std::vector<QuickPick>& found, const Session& s
 
 void OwnPickRow::ShowDepths(const std::vector<std::string_view>& depths)
 {
-    depthsCaption->setEnabled(!depths.empty());
+    depthsCaption->setVisible(!depths.empty());
     for (std::size_t k = 0; k < depthButtons.size(); ++k) {
         depthButtons[k]->setVisible(k < depths.size());
         if (k < depths.size()) {
