@@ -1,0 +1,19 @@
+#pragma once
+
+#include "core/Message.h"
+#include "design/DataSheet.h"
+
+namespace kordavan {
+
+/// The blocks of the Data Record, each filled by itself.
+void FillHeading(const Session& session, CalendarDay today, DataSheet& sheet);
+void FillMemberLines(const Session& session, DataSheet& sheet);
+void FillChecks(const Session& session, DataSheet& sheet);
+void FillReferenceValues(const Session& session, DataSheet& sheet);
+void FillFactors(const Session& session, UserPort& user, DataSheet& sheet);
+void FillSpansAndReactions(const Session& session, DataSheet& sheet);
+void FillDeflections(const Session& session, DataSheet& sheet);
+void FillBearing(const Session& session, DataSheet& sheet);
+void FillLoads(const Session& session, DataSheet& sheet);
+
+}  // namespace kordavan
