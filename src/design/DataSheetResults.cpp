@@ -106,7 +106,7 @@ void FillLengths(const Session& session, DataSheet& sheet)
 {
     const BeamNumbers& beam = session.Numbers;
     sheet[12] = SpanCaption(beam);
-    sheet[61] = FormatNumber(beam.Span, "####.0#") + " ft";
+    sheet[61] = FormatNumber(beam.Span, "####.0#");
     if (beam.IsOverhanging()) {
         sheet[130] = "Overhang Length";
         sheet[131] = FormatNumber(beam.Overhang, "###0.0#") + " ft";
@@ -180,7 +180,7 @@ void FillSpansAndReactions(const Session& session, DataSheet& sheet)
     FillReactions(analysis, sheet);
     const float moment = std::max(std::abs(analysis.MaxMomentFtLb), std::abs(analysis.OverhangMomentTotal));
     sheet[54] = "Max Moment";
-    sheet[65] = FormatNumber(moment, "####") + " '#";
+    sheet[65] = FormatNumber(moment, "####");
     sheet[55] = "Maximum V";
     sheet[66] = PoundText(analysis.ShearMax, "####");
     sheet[168] = beam.ReduceShear && !beam.IsSteel() ? PoundText(analysis.ShearReduced, "####") : "N/A ";
