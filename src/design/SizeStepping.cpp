@@ -28,12 +28,14 @@ constexpr std::array<std::string_view, 2> HeaderBreadths{"3-1/2x", "5-1/2x"};
 std::vector<std::string_view> ProductBreadths(std::size_t product)
 {
     std::vector<Breadth> breadths;
+    breadths.reserve(SclProducts()[product].Sizes.size());
     for (const SclSize& size : SclProducts()[product].Sizes) {
         breadths.push_back(*FindBreadth(SizeFamily::Composite, size.Breadth));
     }
     std::sort(breadths.begin(), breadths.end(),
               [](const Breadth& a, const Breadth& b) { return a.Net < b.Net; });
     std::vector<std::string_view> texts;
+    texts.reserve(breadths.size());
     for (const Breadth& breadth : breadths) {
         texts.push_back(breadth.Text);
     }

@@ -57,7 +57,7 @@ private:
     void SaveFile();
     void OnEnterValues();
     void OnPick(std::size_t index);
-    void OnDepth(const QString& depth);
+    void OnDepth(const QString& text);
     void OnTest();
 
     Bindings bindings;

@@ -21,7 +21,7 @@ class OwnPickRow : public QWidget {
 public:
     OwnPickRow();
 
-    void ShowPicks(const std::vector<QuickPick>& picks, const Session& session);
+    void ShowPicks(const std::vector<QuickPick>& found, const Session& session);
     void ShowDepths(const std::vector<std::string_view>& depths);
 
     /// Puts the focus on the first pick that offers a depth; false when none does.
