@@ -6,6 +6,7 @@
 
 #include "design/OwnSelection.h"
 
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 
@@ -31,7 +32,13 @@ Q_SIGNALS:
     void Picked(std::size_t index);
     void DepthPicked(const QString& depth);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    /// Moves the focus to the next pick in a direction that offers a depth.
+    void FocusNext(int step);
+
     std::array<QLabel*, OwnPickCount> breadths{};
     std::array<PickCell*, OwnPickCount> picks{};
     QLabel* heading = nullptr;
