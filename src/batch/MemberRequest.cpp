@@ -97,6 +97,9 @@ void ReadMember(const JsonValue& member, const FieldPath& path, SpeciesGroup gro
         }
         std::visit(FieldReader{json.value, fieldPath, entry}, field->Into);
     }
+    if (group == SpeciesGroup::Scl && !entry.Custom.Exponent.empty() && !IsCustomScl(entry.Product)) {
+        path.Field("Exponent").Fail("only products of the user's own have one");
+    }
 }
 
 }  // namespace kordavan

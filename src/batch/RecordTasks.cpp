@@ -30,7 +30,7 @@ struct RecordKind {
     std::string_view Name;
     const RecordLayout* Layout;
     std::int16_t Tag;
-    Outcome (*CheckTag)(const PackedRecord& record, UserPort& user);
+    Outcome (*Check)(const PackedRecord& record, UserPort& user);
     void (*TellLoaded)(const PackedRecord& record, const Session& session, UserPort& user);
 };
 
@@ -43,7 +43,7 @@ void TellCriteria(const PackedRecord& record, const Session& /*session*/, UserPo
 
 constexpr std::array Kinds{
     RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteria},
-    RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValuesTag, TellCustomValues},
+    RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValues, TellCustomValues},
     RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},
     RecordKind{"scl", &SclLayout, SclTag, CheckSclTag, TellNothing},
     RecordKind{"scl-custom", &CustomSclLayout, CustomSclTag, CheckCustomSclTag, TellNothing},
@@ -224,7 +224,7 @@ void AnswerReadRecord(const JsonValue& request, const JsonValue* id, AnswerWrite
     CollectingUser user;
     const FileRead file = ReadRecordFile(path);
     const PackedRecord record(*kind.Layout, file.Bytes.value_or(std::string{}));
-    const Outcome outcome = file.Bytes ? kind.CheckTag(record, user) : RefuseReading(path, file.Fault, user);
+    const Outcome outcome = file.Bytes ? kind.Check(record, user) : RefuseReading(path, file.Fault, user);
     if (outcome == Outcome::Done) {
         kind.TellLoaded(record, session, user);
     }

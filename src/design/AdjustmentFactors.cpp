@@ -101,12 +101,11 @@ float SclSizeFactor(const SclProduct& product, const FactorInput& input)
 /// Composite lumber takes no factors of wet service or incising; it is made dry and used as its maker says.
 AdjustmentFactors ComputeCompositeFactors(const BeamNumbers& beam, const FactorInput& input)
 {
-    constexpr float repetitive = 1.04F;
     const SclProduct& product = SclProducts()[input.Member.Product];
     AdjustmentFactors factors;
     factors.IsComposite = true;
     factors.Cd = Single(beam.Dur);
-    factors.Cr = beam.Rep && product.IsRepetitive ? repetitive : 1.0F;
+    factors.Cr = RepetitiveFactor(beam, BreadthKey::Composite, input.Member.Product);
     if (product.UsesVolumeFactor) {
         factors.CvGoverns = true;
         factors.Cv =
@@ -130,14 +129,26 @@ CustomTraits TraitsOf(const CustomEntry& custom)
 {
     const bool machineGraded = custom.MSRCheckbox || custom.MELCheckbox;
     return {.OwnSizedValues = custom.CustomIngradeSP || machineGraded,
-            .SouthernPine = custom.CustomIngradeSP || custom.SPG,
+            .SouthernPine = custom.CustomIngradeSP || (custom.WidGLB && custom.SPG),
             .MachineGraded = machineGraded,
             .SclExponent = Val(custom.Exponent)};
 }
 
+float RepetitiveFactor(const BeamNumbers& beam, BreadthKey key, std::size_t product)
+{
+    constexpr float lumber = 1.15F;
+    constexpr float composite = 1.04F;
+    if (!beam.Rep) {
+        return 1;
+    }
+    if (key != BreadthKey::Composite) {
+        return lumber;
+    }
+    return SclProducts()[product].IsRepetitive ? composite : 1.0F;
+}
+
 AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& input)
 {
-    constexpr float repetitive = 1.15F;
     constexpr float roundForm = 1.18F;
     const MemberCandidate& member = input.Member;
     if (member.BreadthKey == BreadthKey::Composite) {
@@ -145,7 +156,7 @@ AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& inp
     }
     AdjustmentFactors factors;
     factors.Cd = Single(beam.Dur);
-    factors.Cr = beam.Rep && !member.Round ? repetitive : 1.0F;
+    factors.Cr = member.Round ? 1.0F : RepetitiveFactor(beam, member.BreadthKey, 0);
     factors.Cf = SizeFactorOf(beam, input);
     if (beam.Wet) {
         ApplyWetService(beam, input, factors);

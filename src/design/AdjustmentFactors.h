@@ -57,6 +57,11 @@ struct FactorInput {
     bool SoPineLowered = false;
 };
 
+/// Repetitive member factor: 1.15 of lumber, 1.04 of the composite products that have one; 1 without
+/// repetitive use. Round members have none.
+/// @param product  of composite lumber
+float RepetitiveFactor(const BeamNumbers& beam, BreadthKey key, std::size_t product);
+
 /// All factors of one size but those of stability; CfSmaller is the size's own factor until the caller knows
 /// better.
 AdjustmentFactors ComputeFactors(const BeamNumbers& beam, const FactorInput& input);

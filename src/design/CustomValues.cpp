@@ -23,7 +23,7 @@ struct OwnValueCheck {
 float FiniteValue(const std::string& text)
 {
     const float value = Single(Val(text));
-    return std::isfinite(value) ? value : 0;
+    return IsNumeric(text) && std::isfinite(value) ? value : 0;
 }
 
 std::int16_t WholePsi(double value)
@@ -39,7 +39,7 @@ DesignValues ReadCustomValues(const CustomEntry& custom)
 {
     return {.Fb = FiniteValue(custom.Fb),
             .Fv = FiniteValue(custom.Fv),
-            .FcPerp = WholePsi(Val(custom.FcPerp)),
+            .FcPerp = IsNumeric(custom.FcPerp) ? WholePsi(Val(custom.FcPerp)) : std::int16_t{0},
             .E = FiniteValue(custom.E)};
 }
 

@@ -107,7 +107,7 @@ std::string ProductName(const MemberEntry& entry)
 Outcome IdentifyComposite(const MemberEntry& entry, UserPort& user, MemberCandidate& candidate)
 {
     const std::optional<Breadth> breadth = FindBreadth(SizeFamily::Composite, entry.BreadthText);
-    if (!breadth) {
+    if (!breadth || !IsMadeIn(entry.Product, entry.BreadthText)) {
         return Refuse(user, Refusal(BadSclBreadth, OwnSizeBoxes.Breadth));
     }
     const std::optional<Depth> depth = FindSclDepth(entry.Product, entry.BreadthText, entry.DepthText);

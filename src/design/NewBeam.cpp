@@ -8,6 +8,7 @@
 #include "core/NumberText.h"
 #include "design/EntryAdjustment.h"
 #include "design/LoadingConditions.h"
+#include "design/UnbracedEntry.h"
 
 namespace kordavan {
 
@@ -84,6 +85,9 @@ void StartNewBeam(Session& session)
     fresh.LMaxDefl = old.LMaxDefl;
     fresh.INGRADE = old.INGRADE;
     fresh.Proj = old.Proj;
+    if (const std::optional<std::string_view> fixed = FixedUnbracedLength(fresh)) {
+        fresh.UBLtext = *fixed;
+    }
     session.Problem = std::move(fresh);
     session.KeptProblem = session.Problem;
     session.Selection.reset();

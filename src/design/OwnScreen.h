@@ -16,11 +16,11 @@ struct OwnScreen {
     std::string_view boisenote;  // of the product that it belongs to
     bool HasName = false;        // maker and grade, or species and grade, are typed
     std::string_view NameCaption;
-    bool HasExponent = false;     // of the size factor
-    bool IsRound = false;         // a diameter stands in place of breadth and depth
-    bool HasLaminations = false;  // glulams may have those of Southern Pine
-    bool HasPicks = false;
-    std::string_view SizeHint;      // beside the size boxes
+    bool HasExponent = false;       // of the size factor
+    bool IsRound = false;           // a diameter stands in place of breadth and depth
+    bool HasLaminations = false;    // glulams may have those of Southern Pine
+    std::string_view Label20;       // how to type a size, where nothing is offered
+    std::string_view Moresizes;     // that there are more depths than buttons
     std::string_view GradeWarning;  // values that contradict one another
     std::string DurationText;       // the factor in force, of a round member
 };

@@ -16,31 +16,32 @@ namespace kordavan {
 
 namespace {
 
+constexpr std::string_view NoFamily =
+    "Please choose the breadths of the member: 2x, 4x, 6x, glu-lam or header, or Round.";
 constexpr std::string_view NoDepths =
     "No beam depths in this breadth group meet the requirements (too large or too small).  You may enter a "
     "specific depth to test, select a different breadth group, or specify new values for Fb, Fv, Fc, and E "
     "above.";
 
-constexpr std::array<std::string_view, 5> DimensionPicks{"2x", "(2) 2x", "3x", "(3) 2x", "(4) 2x"};
-constexpr std::array<std::string_view, 1> FourInchPicks{"4x"};
 constexpr std::array<std::string_view, 5> TimberPicks{"6x", "8x", "10x", "12x", "14x"};
-constexpr std::array<std::string_view, 2> HeaderPicks{"3-1/2x", "5-1/2x"};
 
-std::span<const std::string_view> FamilyPicks(SizeFamily family)
+template <typename Texts>
+std::vector<std::string_view> ListOf(const Texts& texts)
+{
+    return {texts.begin(), texts.end()};
+}
+
+std::vector<std::string_view> FamilyPicks(SizeFamily family)
 {
     switch (family) {
         case SizeFamily::Custom2x:
-            return DimensionPicks;
         case SizeFamily::Custom4x:
-            return FourInchPicks;
-        case SizeFamily::CustomTimber:
-            return TimberPicks;
-        case SizeFamily::CustomGlulam:
-            return GlulamLadder;
-        case SizeFamily::CustomSouthernPineGlulam:
-            return SouthernPineGlulamLadder;
         case SizeFamily::GlulamHeader:
-            return HeaderPicks;
+        case SizeFamily::CustomGlulam:
+        case SizeFamily::CustomSouthernPineGlulam:
+            return BreadthTexts(family);
+        case SizeFamily::CustomTimber:
+            return ListOf(TimberPicks);
         case SizeFamily::Listed:
         case SizeFamily::SouthernPineListed:
         case SizeFamily::Composite:
@@ -63,26 +64,13 @@ std::vector<DepthChoice> OfferedDepths(const MemberEntry& entry, SizeFamily fami
     return depths;
 }
 
-float RepetitiveFactor(const BeamNumbers& beam, const MemberEntry& entry)
-{
-    constexpr float lumber = 1.15F;
-    constexpr float composite = 1.04F;
-    if (!beam.Rep || entry.Custom.Roundoption) {
-        return 1;
-    }
-    if (beam.Group != SpeciesGroup::Scl) {
-        return lumber;
-    }
-    return SclProducts()[entry.Product].IsRepetitive ? composite : 1.0F;
-}
-
 /// Square of the least depth in bending, in2.
 double LeastSquare(const Session& session, const Breadth& breadth)
 {
     const BeamNumbers& beam = session.Numbers;
     const double M = std::max(session.Analysis.MaxMomentApplied, session.Analysis.OverhangMomentApplied);
-    const double FbStar =
-        ReadCustomValues(session.Entry.Custom).Fb * beam.Dur * RepetitiveFactor(beam, session.Entry);
+    const double FbStar = ReadCustomValues(session.Entry.Custom).Fb * beam.Dur *
+                          RepetitiveFactor(beam, breadth.Key, session.Entry.Product);
     return 72 * M / (breadth.Net * FbStar);  // S = b d^2 / 6 = 12 M / Fb
 }
 
@@ -116,6 +104,11 @@ Outcome EnterValues(Session& session, UserPort& user, std::vector<QuickPick>& pi
 {
     picks = PicksWithoutValues(session);
     const MemberEntry& entry = session.Entry;
+    const bool hasFamily = session.Numbers.Group == SpeciesGroup::Scl || entry.Custom.Roundoption ||
+                           FamilyOf(entry, session.Numbers.Group) != SizeFamily::Listed;
+    if (!hasFamily) {
+        return Refuse(user, Refusal(NoFamily, "Wid2x"));
+    }
     const bool needsExponent = session.Numbers.Group == SpeciesGroup::Scl && IsCustomScl(entry.Product);
     if (CheckOwnValues(ReadCustomValues(entry.Custom), user) != Outcome::Done ||
         (needsExponent && CheckSclExponent(entry.Custom.Exponent, user) != Outcome::Done)) {
@@ -155,8 +148,7 @@ std::vector<std::string_view> OwnPickBreadths(const MemberEntry& entry, SpeciesG
     if (entry.Custom.Roundoption) {
         return {};
     }
-    const std::span<const std::string_view> picks = FamilyPicks(FamilyOf(entry, group));
-    return {picks.begin(), picks.end()};
+    return FamilyPicks(FamilyOf(entry, group));
 }
 
 std::vector<std::string_view> SuggestDepths(const Session& session)
@@ -194,13 +186,8 @@ void TakeOwnPick(MemberEntry& entry, const QuickPick& pick)
 
 std::vector<std::string_view> OwnBreadthChoices(const MemberEntry& entry, SpeciesGroup group)
 {
-    std::vector<std::string_view> texts = OwnPickBreadths(entry, group);
-    for (const Breadth& breadth : BreadthsOf(FamilyOf(entry, group))) {
-        if (std::find(texts.begin(), texts.end(), breadth.Text) == texts.end()) {
-            texts.push_back(breadth.Text);
-        }
-    }
-    return texts;
+    const bool isListedProduct = group == SpeciesGroup::Scl && !IsCustomScl(entry.Product);
+    return isListedProduct ? OwnPickBreadths(entry, group) : BreadthTexts(FamilyOf(entry, group));
 }
 
 std::vector<std::string_view> OwnDepthChoices(const MemberEntry& entry, SpeciesGroup group)

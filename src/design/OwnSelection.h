@@ -35,7 +35,7 @@ void TellNoDepths(const Session& session, const std::vector<std::string_view>& d
 /// Puts a quick pick into the size boxes; an empty one changes nothing.
 void TakeOwnPick(MemberEntry& entry, const QuickPick& pick);
 
-/// The exact texts that the size boxes take. Those of a product stand before the other breadths.
+/// The exact texts that the size boxes take.
 std::vector<std::string_view> OwnBreadthChoices(const MemberEntry& entry, SpeciesGroup group);
 std::vector<std::string_view> OwnDepthChoices(const MemberEntry& entry, SpeciesGroup group);
 

@@ -203,8 +203,12 @@ PickFace FaceOf(const QuickPick& pick, SizeFamily family, bool isRepetitive)
 {
     PickFace face;
     face.Name = pick.BreadthText;
-    face.Name += pick.DepthText.empty() ? " " : " " + pick.DepthText + " ";
-    face.Name += pick.SpeciesText;
+    for (const std::string_view part : {std::string_view(pick.DepthText), pick.SpeciesText}) {
+        if (!part.empty()) {
+            face.Name += " ";
+            face.Name += part;
+        }
+    }
     face.IsFaded = isRepetitive && IsUnfitForRepetition(pick, family);
     if (pick.DepthText.empty()) {
         face.Tip = WhyEmpty(pick.State);

@@ -22,18 +22,18 @@ constexpr std::array<std::string_view, 10> SawnBreadths{"2x", "(2) 2x", "4x",  "
 /// Stands beside the sawn ladder: up from it leads to the two-ply member, down to none.
 constexpr std::string_view ThreeInch = "3x";
 
-constexpr std::array<std::string_view, 2> HeaderBreadths{"3-1/2x", "5-1/2x"};
-
 /// The breadths of a product from small to large.
 std::vector<std::string_view> ProductBreadths(std::size_t product)
 {
     std::vector<Breadth> breadths;
+    breadths.reserve(SclProducts()[product].Sizes.size());
     for (const SclSize& size : SclProducts()[product].Sizes) {
         breadths.push_back(*FindBreadth(SizeFamily::Composite, size.Breadth));
     }
     std::sort(breadths.begin(), breadths.end(),
               [](const Breadth& a, const Breadth& b) { return a.Net < b.Net; });
     std::vector<std::string_view> texts;
+    texts.reserve(breadths.size());
     for (const Breadth& breadth : breadths) {
         texts.push_back(breadth.Text);
     }
@@ -57,11 +57,9 @@ std::vector<std::string_view> LadderOf(const MemberCandidate& member, SpeciesGro
         case SizeFamily::Custom4x:
             return {};
         case SizeFamily::GlulamHeader:
-            return Rungs(HeaderBreadths);
         case SizeFamily::CustomGlulam:
-            return Rungs(GlulamLadder);
         case SizeFamily::CustomSouthernPineGlulam:
-            return Rungs(SouthernPineGlulamLadder);
+            return BreadthTexts(member.Family);
         case SizeFamily::Listed:
         case SizeFamily::SouthernPineListed:
         case SizeFamily::Custom2x:

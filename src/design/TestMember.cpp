@@ -198,6 +198,13 @@ Outcome CheckMember(const Session& session, const MemberEntry& entry, TestOption
     return Outcome::Done;
 }
 
+/// A product of the user's own has no exponent but the one entered.
+Outcome CheckExponent(SpeciesGroup group, const MemberEntry& entry, UserPort& user)
+{
+    const bool isOwnProduct = group == SpeciesGroup::Scl && IsCustomScl(entry.Product);
+    return isOwnProduct ? CheckSclExponent(entry.Custom.Exponent, user) : Outcome::Done;
+}
+
 void StoreTest(const MemberCandidate& member, const SizeTest& size, const DeflectionResult& deflection,
                Session& session)
 {
@@ -238,6 +245,7 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     SizeTest candidate;
     if (AdjustSize(test, size, member.DepthText, StabilityRun::Candidate, user, candidate) != Outcome::Done ||
         CheckOwnValues(test.Own, user) != Outcome::Done ||
+        CheckExponent(beam.Group, entry, user) != Outcome::Done ||
         LoadSize(test, size, user, candidate) != Outcome::Done) {
         return Outcome::Refused;
     }

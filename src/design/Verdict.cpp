@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "core/NumberText.h"
+#include "materials/SclProducts.h"
 
 namespace kordavan {
 
@@ -158,12 +159,10 @@ void GiveVerdict(const BeamNumbers& beam, MemberTest& member)
 
 double ProductDeflectionLimit(const MemberCandidate& member, double depth)
 {
-    constexpr std::size_t timberStrand = 10;
     constexpr double mostDepth = 7.25;
-    constexpr double mostDeflection = 5.0 / 16;
-    const bool isLimited =
-        member.BreadthKey == BreadthKey::Composite && member.Product == timberStrand && depth <= mostDepth;
-    return isLimited ? mostDeflection : std::numeric_limits<double>::infinity();
+    const double limit =
+        member.BreadthKey == BreadthKey::Composite ? SclProducts()[member.Product].ShallowLimit : 0;
+    return limit > 0 && depth <= mostDepth ? limit : std::numeric_limits<double>::infinity();
 }
 
 bool MeetsDeflectionLimits(const DeflectionResult& deflection)

@@ -31,6 +31,13 @@ constexpr std::string_view Page =
 
 constexpr int SizeDigits = 12;
 
+/// A diameter is a size, not a value.
+CustomEntry WithoutDiameter(CustomEntry custom)
+{
+    custom.Diam.clear();
+    return custom;
+}
+
 }  // namespace
 
 Form2::Form2(Walk& walk)
@@ -120,12 +127,15 @@ void Form2::BuildSizes()
 {
     MemberEntry& entry = TheSession().Entry;
     breadth =
-        new ChoiceBox({.Name = "Text6", .Tip = "Breadth to test, exactly as listed (Down key)"}, SizeDigits);
+        new ChoiceBox({.Name = "Text6",
+                       .Tip = "Breadth to test, exactly as listed (Down key); timbers also by half inches"},
+                      SizeDigits);
     depth =
         new ChoiceBox({.Name = "Text7", .Tip = "Depth to test, exactly as listed (Down key)"}, SizeDigits);
     bindings.Bind(*breadth, entry.BreadthText);
     bindings.Bind(*depth, entry.DepthText);
-    sizeHint = MakeNamedLabel("Label20");
+    label20 = MakeNamedLabel("Label20");
+    moreSizes = MakeNamedLabel("Moresizes");
     sizes = new QWidget;
     auto* const line = new QHBoxLayout(sizes);
     line->setContentsMargins(0, 0, 0, 0);
@@ -134,7 +144,8 @@ void Form2::BuildSizes()
         line->addWidget(box);
         box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     }
-    line->addWidget(sizeHint, 1);
+    line->addWidget(label20);
+    line->addWidget(moreSizes, 1);
     KeepPlace(*sizes);
     Body().addWidget(sizes);
     Body().addStretch(1);
@@ -167,7 +178,16 @@ void Form2::BuildMenus()
 
 void Form2::OrderTabs()
 {
-    ChainTabStops({section, values, pickRow, breadth, depth, test});
+    std::vector<QWidget*> order{section};
+    for (const char* const name : {"Text1", "Text2", "Text4", "Text3", "Text5", "Text8", "CustomIngradeSP",
+                                   "MSRCheckbox", "MELCheckbox", "CmdEnterValues"}) {
+        order.push_back(findChild<QWidget*>(QLatin1String(name)));
+    }
+    order.insert(order.end(), {pickRow, breadth, depth, test});
+    for (const char* const name : {"LVLLoadDefault", "LVLsavedefault", "LoadVal", "SaveVal"}) {
+        order.push_back(findChild<QWidget*>(QLatin1String(name)));
+    }
+    ChainTabStops(order);
 }
 
 /// The values of a product are read from its file; those of custom wood are still there.
@@ -177,9 +197,9 @@ void Form2::StartOver()
     entered.reset();
     if (session.Numbers.Group == SpeciesGroup::Scl) {
         LoadProduct();
+        session.Entry.BreadthText.clear();
+        session.Entry.DepthText.clear();
     }
-    session.Entry.BreadthText.clear();
-    session.Entry.DepthText.clear();
     picks = PicksWithoutValues(session);
     if (HasAllValues(session.Entry, session.Numbers.Group)) {
         OnEnterValues();
@@ -195,6 +215,7 @@ void Form2::Refresh()
     section->ShowScreen(screen);
     values->ShowScreen(screen);
     if (!AreValuesEntered()) {
+        entered.reset();
         picks = PicksWithoutValues(session);
     }
     pickRow->ShowPicks(picks, session);
@@ -219,7 +240,8 @@ void Form2::ShowSizes(const OwnScreen& screen)
 {
     const Session& session = TheSession();
     sizes->setVisible(!screen.IsRound);
-    sizeHint->setText(Text(screen.SizeHint));
+    label20->setText(Text(screen.Label20));
+    moreSizes->setText(Text(screen.Moresizes));
     breadth->SetChoices(OwnBreadthChoices(session.Entry, session.Numbers.Group));
     depth->SetChoices(OwnDepthChoices(session.Entry, session.Numbers.Group));
 }
@@ -227,7 +249,7 @@ void Form2::ShowSizes(const OwnScreen& screen)
 bool Form2::AreValuesEntered() const
 {
     const MemberEntry& entry = context.Beam.Entry;
-    return entered && entered->Custom == entry.Custom && entered->Product == entry.Product;
+    return entered && entered->Custom == WithoutDiameter(entry.Custom) && entered->Product == entry.Product;
 }
 
 void Form2::FocusOnStart()
@@ -310,7 +332,7 @@ void Form2::OnEnterValues()
 {
     Session& session = TheSession();
     if (EnterValues(session, User(), picks) == Outcome::Done) {
-        entered = EnteredValues{session.Entry.Custom, session.Entry.Product};
+        entered = EnteredValues{WithoutDiameter(session.Entry.Custom), session.Entry.Product};
         TellNoDepths(session, SuggestDepths(session), User());
         Refresh();
         pickRow->FocusFirst();

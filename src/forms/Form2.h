@@ -57,7 +57,7 @@ private:
     void SaveFile();
     void OnEnterValues();
     void OnPick(std::size_t index);
-    void OnDepth(const QString& depth);
+    void OnDepth(const QString& text);
     void OnTest();
 
     Bindings bindings;
@@ -66,7 +66,7 @@ private:
     std::vector<QuickPick> picks;
     int analysisShown = 0;
 
-    /// What the picks were found for.
+    /// What the picks were found for; a diameter aside.
     struct EnteredValues {
         CustomEntry Custom;
         std::size_t Product;
@@ -83,7 +83,8 @@ private:
     QWidget* sizes = nullptr;
     ChoiceBox* breadth = nullptr;
     ChoiceBox* depth = nullptr;
-    QLabel* sizeHint = nullptr;
+    QLabel* label20 = nullptr;
+    QLabel* moreSizes = nullptr;
     QAction* loadFile = nullptr;
     QLabel* panel = nullptr;
     QPushButton* test = nullptr;

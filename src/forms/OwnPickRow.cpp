@@ -2,8 +2,10 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 #include "forms/Kit.h"
 #include "forms/PickTable.h"
@@ -82,6 +84,31 @@ void OwnPickRow::ShowDepths(const std::vector<std::string_view>& depths)
         if (k < depths.size()) {
             depthButtons[k]->setText(Text(depths[k]));
             depthButtons[k]->setAccessibleName(QStringLiteral("Depth %1").arg(Text(depths[k])));
+        }
+    }
+}
+
+void OwnPickRow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Left) {
+        FocusNext(-1);
+    } else if (event->key() == Qt::Key_Right) {
+        FocusNext(1);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void OwnPickRow::FocusNext(int step)
+{
+    const auto count = static_cast<int>(picks.size());
+    const auto focused =
+        std::find_if(picks.begin(), picks.end(), [](const PickCell* pick) { return pick->hasFocus(); });
+    for (int k = static_cast<int>(focused - picks.begin()) + step; k >= 0 && k < count; k += step) {
+        PickCell* const pick = picks[static_cast<std::size_t>(k)];
+        if (!pick->isHidden() && pick->isEnabled()) {
+            pick->setFocus(Qt::OtherFocusReason);
+            return;
         }
     }
 }

@@ -6,6 +6,7 @@
 
 #include "design/OwnSelection.h"
 
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 
@@ -21,7 +22,7 @@ class OwnPickRow : public QWidget {
 public:
     OwnPickRow();
 
-    void ShowPicks(const std::vector<QuickPick>& picks, const Session& session);
+    void ShowPicks(const std::vector<QuickPick>& found, const Session& session);
     void ShowDepths(const std::vector<std::string_view>& depths);
 
     /// Puts the focus on the first pick that offers a depth; false when none does.
@@ -31,7 +32,13 @@ Q_SIGNALS:
     void Picked(std::size_t index);
     void DepthPicked(const QString& depth);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    /// Moves the focus to the next pick in a direction that offers a depth.
+    void FocusNext(int step);
+
     std::array<QLabel*, OwnPickCount> breadths{};
     std::array<PickCell*, OwnPickCount> picks{};
     QLabel* heading = nullptr;

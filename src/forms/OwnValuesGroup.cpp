@@ -76,6 +76,7 @@ NumericBox* OwnValuesGroup::AddValue(const ControlText& text, std::string_view c
 {
     auto* const box = new NumericBox(text, ValueDigits, nullptr, Shared().Numbers);
     Shared().Boxes.Bind(*box, bound);
+    box->setPlaceholderText(Text(unit));
     Grid().addWidget(MakeCaption(caption, *box), line, column);
     Grid().addWidget(box, line, column + 1);
     Grid().addWidget(MakeLabel(unit), line, column + 2);

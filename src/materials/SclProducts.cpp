@@ -119,6 +119,7 @@ constexpr SclProduct Product(std::string_view name, std::string_view line, std::
 {
     return {.Name = name,
             .LVLname = line,
+            .boisenote = {},
             .Sizes = sizes,
             .DeepExponent = rule.DeepExponent,
             .ShallowExponent = rule.ShallowExponent,
@@ -127,12 +128,29 @@ constexpr SclProduct Product(std::string_view name, std::string_view line, std::
             .DensityFactor = densityFactor};
 }
 
+constexpr SclProduct WithNote(SclProduct product, std::string_view note)
+{
+    product.boisenote = note;
+    return product;
+}
+
+constexpr SclProduct WithShallowLimit(SclProduct product, double inches)
+{
+    product.ShallowLimit = inches;
+    return product;
+}
+
+constexpr std::string_view Vestige =
+    "This selection is a vestige of the discontinued BC Versa-Lam Plus. Please select BC Versa-Lam for all "
+    "available widths.";
+
 constexpr std::string_view NotForGlulams = "For SCL's Only, not for Glu-lam products.";
 
 // Size factors and unit weights: the makers' evaluation reports.
 constexpr std::array<SclProduct, SclProductCount> Products{
     Product("2.0E BC Versa-Lam 2800", "Boise LVL 2800", VersaLam2800, Exponent(Ninth), Of37Pcf),
-    Product("2.0E BC Versa-Lam 3100", "Boise LVL 3100", VersaLam3100, Exponent(Ninth), Of37Pcf),
+    WithNote(Product("2.0E BC Versa-Lam 3100", "Boise LVL 3100", VersaLam3100, Exponent(Ninth), Of37Pcf),
+             Vestige),
     Product("1.9E TJ Microllam LVL", "Trus Joist LVL", Microllam, Exponent(0.136), Of37Pcf),
     Product("2.0E TJ Parallam W.S. PSL", "Trus Joist PSL", Parallam, Exponent(Ninth), Of45Pcf),
     Product("2.0E TJ Parallam E.S. PSL", "Trus Joist PSL", Parallam, Exponent(Ninth), Of45Pcf),
@@ -141,7 +159,8 @@ constexpr std::array<SclProduct, SclProductCount> Products{
     Product("1.9E LP SolidStart LVL", "Lousiana Pacific LVL", SolidStart, From12In(1.0 / 7, Ninth), Of36Pcf),
     Product("2.0E LP SolidStart LVL", "Lousiana Pacific LVL", SolidStart, From12In(1.0 / 7, Ninth), Of36Pcf),
     Product("1.5E LP SolidStart LVL", "Lousiana Pacific LVL", SolidStart, From12In(1.0 / 7, Ninth), Of36Pcf),
-    Product("1.3E TJ TimberStrand LSL", "Trus Joist LSL", RimStrand, Exponent(0.092), Of38Pcf),
+    WithShallowLimit(
+        Product("1.3E TJ TimberStrand LSL", "Trus Joist LSL", RimStrand, Exponent(0.092), Of38Pcf), 5.0 / 16),
     Product("Disc. 1.5E TJ TimberStrand LSL", "Trus Joist LSL", TimberStrand, Exponent(0.092), Of38Pcf),
     Product("1.55E TJ TimberStrand LSL", "Trus Joist LSL", TimberStrand, Exponent(0.092), Of38Pcf),
     Product("20F-1.6E CC NordicLam LSL", "Chantiers Chibougamau LSL", NordicLam20F, Volume, Of35Pcf),
@@ -213,6 +232,13 @@ std::span<const SclProduct, SclProductCount> SclProducts()
 std::span<const Breadth> SclBreadths()
 {
     return Breadths;
+}
+
+bool IsMadeIn(std::size_t product, std::string_view breadth)
+{
+    const std::span<const SclSize> sizes = Products[product].Sizes;
+    return sizes.empty() || std::any_of(sizes.begin(), sizes.end(),
+                                        [breadth](const SclSize& size) { return size.Breadth == breadth; });
 }
 
 std::vector<DepthChoice> SclDepths(std::size_t product, std::string_view breadth)

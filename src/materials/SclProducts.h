@@ -22,12 +22,14 @@ struct SclSize {
 struct SclProduct {
     std::string_view Name;
     std::string_view LVLname;        // the maker's line
+    std::string_view boisenote;      // a remark on the product
     std::span<const SclSize> Sizes;  // in the order of its quick picks; none of the user's own products
     double DeepExponent = 0;         // of the size factor (12/d)^x from 12 in. up
     double ShallowExponent = 0;      // and below 12 in.
     bool UsesVolumeFactor = false;   // in place of the size factor
     bool IsRepetitive = true;        // bending may be raised for repetitive use
     float DensityFactor = 0;         // unit weight in pcf over 144
+    double ShallowLimit = 0;         // deflection that its maker allows up to 7-1/4 in. deep, in.; 0 for none
 };
 
 inline constexpr std::size_t SclProductCount = 26;
@@ -46,6 +48,9 @@ std::span<const SclProduct, SclProductCount> SclProducts();
 
 /// All breadths in which composite lumber can be written; "(2) 1-3/4x" is two plies of 1-3/4 in.
 std::span<const Breadth> SclBreadths();
+
+/// True when the product comes in the breadth; the user's own come in all.
+bool IsMadeIn(std::size_t product, std::string_view breadth);
 
 /// The depths of a product in a breadth; in one that it is not made in, all its depths, and every depth there
 /// is of the user's own products.

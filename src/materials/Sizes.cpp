@@ -178,6 +178,15 @@ std::span<const Breadth> BreadthsOf(SizeFamily family)
     return {};
 }
 
+std::vector<std::string_view> BreadthTexts(SizeFamily family)
+{
+    std::vector<std::string_view> texts;
+    for (const Breadth& breadth : BreadthsOf(family)) {
+        texts.push_back(breadth.Text);
+    }
+    return texts;
+}
+
 std::string_view KeyText(BreadthKey key)
 {
     switch (key) {

@@ -46,6 +46,9 @@ struct Depth {
 /// The breadths of a family; those of a species group hold the glulams of all woods.
 std::span<const Breadth> BreadthsOf(SizeFamily family);
 
+/// Their texts, in the same order.
+std::vector<std::string_view> BreadthTexts(SizeFamily family);
+
 /// The glulam breadths of a species group, from small to large.
 inline constexpr std::array<std::string_view, 5> GlulamLadder{"3-1/8x", "5-1/8x", "6-3/4x", "8-3/4x",
                                                               "10-3/4x"};

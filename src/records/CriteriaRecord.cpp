@@ -13,6 +13,7 @@
 #include "design/EntryAdjustment.h"
 #include "design/LoadTools.h"
 #include "design/UnbracedEntry.h"
+#include "materials/SclProducts.h"
 #include "records/BoxNumbers.h"
 #include "records/CriteriaLayout.h"
 
@@ -339,6 +340,9 @@ void WriteCustom(const MemberEntry& entry, SpeciesGroup group, PackedRecord& rec
         record.SetText("Custom.Text5", entry.SpeciesText);
         record.SetText("Custom.Text6", entry.BreadthText);
         record.SetText("Custom.Text7", entry.DepthText);
+    }
+    if (group == SpeciesGroup::Scl) {
+        record.SetText("Custom.Combo1", SclProducts()[entry.Product].Name);
     }
     record.SetText("Custom.Text1", custom.Fb);
     record.SetText("Custom.Text2", custom.Fv);

@@ -81,6 +81,7 @@ void ReadFamily(const PackedRecord& record, CustomEntry& custom)
     if (chosen != nullptr) {
         custom.*chosen = true;
     }
+    custom.SPG = custom.SPG && custom.WidGLB;
 }
 
 Message Titled(std::string_view title, Message message)
@@ -129,31 +130,35 @@ CustomValuesRecordMade MakeCustomValuesRecord(const MemberEntry& entry)
     return made;
 }
 
-Outcome CheckCustomValuesTag(const PackedRecord& record, UserPort& user)
+Outcome CheckCustomValues(const PackedRecord& record, UserPort& user)
 {
-    return record.Integer("RecordTag") == CustomValuesTag
-               ? Outcome::Done
-               : Refuse(user, Marked(Refusal(NotCustomValues), MessageIcon::Warning));
-}
-
-Outcome RestoreCustomValues(const PackedRecord& record, MemberEntry& entry, UserPort& user)
-{
+    if (record.Integer("RecordTag") != CustomValuesTag) {
+        return Refuse(user, Marked(Refusal(NotCustomValues), MessageIcon::Warning));
+    }
     const auto* const absurd = std::find_if(
         NumberEntries.begin(), NumberEntries.end(),
         [&record](const NumberEntry& field) { return !std::isfinite(record.Float(field.Name)); });
-    if (absurd != NumberEntries.end()) {
-        return Refuse(user, Refusal("This Custom Value file holds a value that is no number (" +
-                                    std::string(absurd->Name) + "), so it was not loaded."));
-    }
+    return absurd == NumberEntries.end()
+               ? Outcome::Done
+               : Refuse(user, Refusal("This Custom Value file holds a value that is no number (" +
+                                      std::string(absurd->Name) + "), so it was not loaded."));
+}
+
+void RestoreCustomValues(const PackedRecord& record, MemberEntry& entry)
+{
     for (const NumberEntry& field : NumberEntries) {
         entry.Custom.*field.Text = BoxText(record.Float(field.Name));
     }
     entry.SpeciesText = record.Text("SpeciesText");
+    const SizeFamily before = FamilyOf(entry, SpeciesGroup::Custom);
     ReadFamily(record, entry.Custom);
+    if (FamilyOf(entry, SpeciesGroup::Custom) != before) {
+        entry.BreadthText.clear();
+        entry.DepthText.clear();
+    }
     for (const auto& [name, flag] : Options) {
         entry.Custom.*flag = record.Flag(name);
     }
-    return Outcome::Done;
 }
 
 void TellCustomValues(const PackedRecord& record, const Session& session, UserPort& user)
@@ -192,10 +197,10 @@ Outcome LoadCustomValues(Session& session, const std::string& path, UserPort& us
         return RefuseReading(path, file.Fault, user);
     }
     const PackedRecord record(CustomValuesLayout, *file.Bytes);
-    if (CheckCustomValuesTag(record, user) != Outcome::Done ||
-        RestoreCustomValues(record, session.Entry, user) != Outcome::Done) {
+    if (CheckCustomValues(record, user) != Outcome::Done) {
         return Outcome::Refused;
     }
+    RestoreCustomValues(record, session.Entry);
     TellCustomValues(record, session, user);
     return Outcome::Done;
 }

@@ -16,12 +16,12 @@ struct CustomValuesRecordMade {
 
 CustomValuesRecordMade MakeCustomValuesRecord(const MemberEntry& entry);
 
-/// Refuses a record whose tag is not that of custom values.
-Outcome CheckCustomValuesTag(const PackedRecord& record, UserPort& user);
+/// Refuses a record whose tag is not that of custom values, or that holds a value that is no number.
+Outcome CheckCustomValues(const PackedRecord& record, UserPort& user);
 
-/// Replaces the user's own values in the entry by those of a record with the right tag; what it does not hold
-/// stays. A number that is not finite is refused with nothing changed.
-Outcome RestoreCustomValues(const PackedRecord& record, MemberEntry& entry, UserPort& user);
+/// Replaces the user's own values in the entry by those of a checked record; what it does not hold stays, but
+/// for the sizes of another family of breadths.
+void RestoreCustomValues(const PackedRecord& record, MemberEntry& entry);
 
 /// Asks whether values just loaded are of the edition in force, and says how to change it where they are not;
 /// warns of timbers in repetitive use.

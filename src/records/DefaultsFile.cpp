@@ -10,6 +10,7 @@
 #include "core/NumberText.h"
 #include "design/EntryAdjustment.h"
 #include "design/NewBeam.h"
+#include "design/UnbracedEntry.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecordFile.h"
 
@@ -96,7 +97,10 @@ void ApplySettings(Session& session, const DefaultSettings& settings)
     session.Defaults = settings;
     session.Header = {
         .Heading1 = settings.DefHead1, .Heading2 = settings.DefHead2, .Initialbox = settings.DefInitials};
-    session.Problem.Combo1 = static_cast<SpeciesGroup>(settings.DefCombo);
+    const auto group = static_cast<SpeciesGroup>(settings.DefCombo);
+    if (group != session.Problem.Combo1) {
+        SwitchMaterial(session, group, session.Problem.Family);
+    }
     session.HighDPI = settings.Def600;
     session.PrintFont = settings.FontCombo;
 }

@@ -93,9 +93,9 @@ struct RecordLayout {
 private:
     static constexpr bool HasWholeElements(const RecordField& field)
     {
-        const bool isPart = field.Type == FieldType::Part;
-        return field.Gap.First + field.Gap.Count <= field.Count && isPart == (field.PartLayout != nullptr) &&
-               (!isPart || (field.PartLayout->Size == field.Length && field.PartLayout->IsWhole()));
+        return field.Gap.First + field.Gap.Count <= field.Count &&
+               (field.Type != FieldType::Part ||
+                (field.PartLayout->Size == field.Length && field.PartLayout->IsWhole()));
     }
 };
 

@@ -64,6 +64,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SizeCase{"shallow by ninth", 8, "1-3/4x", "9-1/2", std::exp(0.233615 / 9)},
                     SizeCase{"deep by seventh", 8, "1-3/4x", "14", std::exp(-0.154151 / 7)},
                     SizeCase{"0.092", 12, "3-1/2x", "9-1/2", std::exp(0.233615 * 0.092)},
+                    SizeCase{"ninth in six digits", 18, "3-1/2x", "14", std::exp(-0.154151 * 0.111111)},
                     SizeCase{"eighth", 21, "1-3/4x", "14", std::exp(-0.154151 / 8)},
                     SizeCase{"own", 24, "5-1/4x", "14", std::exp(-0.154151 * 0.2)},
                     SizeCase{"own at 12 in", 23, "7x", "12", 1}),
@@ -107,6 +108,37 @@ INSTANTIATE_TEST_SUITE_P(
                     VolumeCase{"later edition", Edition::Nds2005, {"900", "7", "900", "13"}, 1}),
     CaseName);
 
+/// On an overhanging beam the whole span counts: 7 x 24 on 20 ft is (12/24 x 21/20 x 5.125/7)^0.1 =
+/// 0.3844^0.1 = 0.908815. The self-weight of 24 x 7 in2 at 35 pcf is 40.83 plf; on 20 ft with 5 ft overhang
+/// R1 takes 40.83 x (400 - 25) / 40 = 382.8 lb of it, R2 40.83 x 625 / 40 = 638.0 lb.
+TEST(CompositeOverhang, TakesTheWholeSpanAndItsWeight)
+{
+    Session session = CompositeSession();
+    session.Problem.Support = SupportCondition::Overhanging;
+    session.Problem.Span = "20";
+    SetPartial(session.Problem, 3, "100", "0", "5", "60");
+    Calculate(session);
+    const MemberTest& member = Tested(session, Composite(14, "7x", "24"));
+    EXPECT_NEAR(member.Factors.Cv, 0.908815, 2e-6);
+    EXPECT_NEAR(session.Analysis.R1Total - session.Analysis.R1Applied, 382.8, 0.1);
+    EXPECT_NEAR(session.Analysis.R2Total - session.Analysis.R2Applied, 638.0, 0.1);
+}
+
+/// Three spans of 12 ft: 0.4, 1.1 and 0.1 of w L, w L and w L^2 of 3-1/2 x 14 of 37 pcf, 12.59 plf.
+TEST(CompositeMultiSpan, AddsItsWeightByTheLawOfContinuousBeams)
+{
+    Session session = CompositeSession();
+    session.Problem.Support = SupportCondition::MultipleSpans;
+    session.Problem.ThreeSpan = true;
+    session.Problem.UBLtext = session.Problem.CantUBLtext = "0";
+    Calculate(session);
+    Tested(session, Composite(1, "3-1/2x", "14"));
+    const AnalysisResult& analysis = session.Analysis;
+    EXPECT_NEAR(analysis.R1Total - analysis.R1Applied, 0.4 * 12.59 * 12, 0.02);
+    EXPECT_NEAR(analysis.R2Total - analysis.R2Applied, 1.1 * 12.59 * 12, 0.02);
+    EXPECT_NEAR(analysis.MaxMomentFtLb - analysis.MaxMomentApplied, 0.1 * 12.59 * 144, 0.05);
+}
+
 TEST(CompositeVolume, IsCutAtOne)
 {
     Session session = CompositeSession();
@@ -120,7 +152,7 @@ TEST(CompositeRepetition, RaisesBendingOfMostProducts)
     session.Problem.Rep = true;
     session.Problem.Spacing = RepetitiveSpacing::Ctr12;
     Calculate(session);
-    for (const std::size_t product : {0U, 10U, 23U, 25U}) {
+    for (const std::size_t product : {1U, 10U, 18U, 25U}) {
         EXPECT_EQ(Tested(session, Composite(product, "3-1/2x", "9-1/2")).Factors.Cr, 1.04F) << product;
     }
     for (const std::size_t product : {13U, 14U, 15U, 22U}) {
@@ -171,6 +203,7 @@ TEST(CompositeMember, OfTheUsersOwnBearsItsName)
     Session session = CompositeSession();
     Calculate(session);
     MemberEntry entry = Composite(23, "(2) 1-1/2x", "14");
+    entry.Custom.Exponent = "0";
     EXPECT_EQ(Tested(session, entry).Candidate.SpeciesText, "Custom SCL #1");
     entry.SpeciesText = "Acme 2.0E";
     EXPECT_EQ(Tested(session, entry).Candidate.SpeciesText, "Acme 2.0E");
@@ -247,12 +280,31 @@ TEST_P(RefusedCompositeTest, TellsWhyAndKeepsTheLastTest)
 
 INSTANTIATE_TEST_SUITE_P(
     Entries, RefusedCompositeTest,
-    testing::Values(RefusedCase{"breadth", "3.5x", "14", "2600", "Please check Breadth entry", "Text6"},
+    testing::Values(RefusedCase{"unlisted breadth", "3-1/2x", "14", "2600", "Please check Breadth entry",
+                                "Text6"},
+                    RefusedCase{"breadth", "3.5x", "14", "2600", "Please check Breadth entry", "Text6"},
                     RefusedCase{"wood breadth", "2x", "14", "2600", "Please check Breadth entry", "Text6"},
                     RefusedCase{"no breadth", "", "14", "2600", "Please check Breadth entry", "Text6"},
                     RefusedCase{"depth", "1-3/4x", "13", "2600", "Please check Depth entry", "Text7"},
-                    RefusedCase{"no value", "1-3/4x", "14", "", "Calc module, zero value error!", ""}),
+                    RefusedCase{"no value", "1-3/4x", "14", "", "Calc module, zero value error!", ""},
+                    RefusedCase{"no number", "1-3/4x", "14", "2,600", "Calc module, zero value error!", ""}),
     CaseName);
+
+TEST(CompositeMember, OfTheUsersOwnNeedsAnExponentBelowOne)
+{
+    Session session = CompositeSession();
+    Calculate(session);
+    for (const std::string_view exponent : {"", "1", "-0.1", "1/9"}) {
+        MemberEntry entry = Composite(24, "3-1/2x", "14");
+        entry.Custom.Exponent = exponent;
+        ScriptedUser user;
+        EXPECT_EQ(TestMember(session, entry, {}, user), Outcome::Refused) << exponent;
+        EXPECT_THAT(
+            user.Told,
+            testing::ElementsAre(RefusalOf(
+                "Please enter a decimal value for the Cf Size factor that is less than one.", "Text8")));
+    }
+}
 
 }  // namespace
 }  // namespace kordavan

@@ -176,17 +176,19 @@ TEST(OwnScreen, ShowsWhatTheMemberHas)
     screen = DescribeOwnScreen(session);
     EXPECT_EQ(screen.boisenote, "");
     EXPECT_TRUE(screen.HasName && screen.HasExponent);
-    EXPECT_FALSE(screen.HasPicks);
+    EXPECT_FALSE(screen.Label20.empty());
+    session.Entry.BreadthText = "7x";
+    EXPECT_FALSE(DescribeOwnScreen(session).Moresizes.empty());
 
     session = OwnSession(SpeciesGroup::Custom);
     session.Entry.Custom.WidGLB = session.Entry.Custom.CustomIngradeSP = session.Entry.Custom.MELCheckbox =
         true;
     screen = DescribeOwnScreen(session);
     EXPECT_EQ(screen.Title, " Kordavan Custom Values Form 2");
-    EXPECT_TRUE(screen.HasLaminations && screen.HasPicks);
+    EXPECT_TRUE(screen.HasLaminations);
     EXPECT_FALSE(screen.GradeWarning.empty());
     session.Entry.Custom.Roundoption = true;
-    EXPECT_FALSE(DescribeOwnScreen(session).HasPicks);
+    EXPECT_FALSE(DescribeOwnScreen(session).HasLaminations);
     EXPECT_EQ(DescribeOwnScreen(session).DurationText, "Load duration factor in force: 1.00");
 }
 

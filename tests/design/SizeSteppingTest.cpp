@@ -5,6 +5,7 @@
 #include <string>
 
 #include "design/DesignBuilder.h"
+#include "support/CaseName.h"
 
 namespace kordavan {
 namespace {
@@ -80,6 +81,103 @@ TEST(SizeStepping, TakesTheNamesOfSouthernPineTimbers)
     EXPECT_EQ(Stepped(Up, Member("(4) 2x", "10", "So. Pine #2"), pine), "6x by 10 So. Pine #2 SR");
     EXPECT_EQ(Stepped(Down, Member("6x", "10", "So. Pine #2 SR"), pine), "(4) 2x by 10 So. Pine #2");
     EXPECT_EQ(Stepped(Up, Member("(4) 2x", "10", "So. Pine #2 KD 15%"), pine), "");  // no such timbers
+}
+
+struct OwnStepCase {
+    std::string_view Name;
+    SizeStep Step;
+    bool CustomEntry::*Family;
+    std::string_view Breadth;
+    std::string_view Depth;
+    std::string_view To;  // empty where the button is off
+};
+
+class CustomStepTest : public testing::TestWithParam<OwnStepCase> {};
+
+TEST_P(CustomStepTest, GoesAlongTheLadderOfItsFamily)
+{
+    const OwnStepCase& c = GetParam();
+    MemberEntry entry = Member(c.Breadth, c.Depth, "Own");
+    entry.Custom.*c.Family = true;
+    const std::string stepped = Stepped(c.Step, entry, SpeciesGroup::Custom);
+    EXPECT_EQ(stepped, c.To.empty() ? "" : std::string(c.To) + " Own");
+}
+
+constexpr auto Deeper = SizeStep::DepthUp;
+constexpr auto Shallower = SizeStep::DepthDown;
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, CustomStepTest,
+    testing::Values(OwnStepCase{"past 4x", Up, &CustomEntry::Wid2x, "(2) 2x", "10", "(3) 2x by 10"},
+                    OwnStepCase{"back past 4x", Down, &CustomEntry::Wid2x, "(3) 2x", "10", "(2) 2x by 10"},
+                    OwnStepCase{"4x alone", Up, &CustomEntry::Wid4x, "4x", "10", ""},
+                    OwnStepCase{"header", Up, &CustomEntry::WidGLBHDR, "3-1/2x", "12", "5-1/2x by 12"},
+                    OwnStepCase{"last header", Up, &CustomEntry::WidGLBHDR, "5-1/2x", "12", ""},
+                    OwnStepCase{"glulam", Up, &CustomEntry::WidGLB, "6-3/4x", "18", "8-3/4x by 18"},
+                    OwnStepCase{"timber by inches", Deeper, &CustomEntry::Wid6x, "6x", "9-1/2",
+                                "6x by 10-1/2"},
+                    OwnStepCase{"timber back", Shallower, &CustomEntry::Wid6x, "5x", "6", "5x by 5"},
+                    OwnStepCase{"timber under 6", Shallower, &CustomEntry::Wid6x, "5x", "5-1/2", ""},
+                    OwnStepCase{"timber to 35", Deeper, &CustomEntry::Wid6x, "8x", "34-1/2", "8x by 35-1/2"},
+                    OwnStepCase{"timber at 35", Deeper, &CustomEntry::Wid6x, "8x", "35", ""},
+                    OwnStepCase{"timber breadth", Up, &CustomEntry::Wid6x, "6x", "12", ""}),
+    CaseName);
+
+struct ProductStepCase {
+    std::string_view Name;
+    SizeStep Step;
+    std::size_t Product;
+    std::string_view Breadth;
+    std::string_view Depth;
+    std::string_view To;
+};
+
+class ProductStepTest : public testing::TestWithParam<ProductStepCase> {};
+
+TEST_P(ProductStepTest, GoesThroughTheSizesOfTheProduct)
+{
+    const ProductStepCase& c = GetParam();
+    MemberEntry entry = Member(c.Breadth, c.Depth, "");
+    entry.Product = c.Product;
+    const std::string stepped = Stepped(c.Step, entry, SpeciesGroup::Scl);
+    EXPECT_EQ(stepped, c.To.empty() ? "" : std::string(c.To) + " ");
+}
+
+// Product 11 is listed 3-1/2x, 1-3/4x, 5-1/4x; product 25 has 6 in. in its two lesser breadths alone.
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, ProductStepTest,
+    testing::Values(ProductStepCase{"by net size", Up, 11, "1-3/4x", "14", "3-1/2x by 14"},
+                    ProductStepCase{"on", Up, 11, "3-1/2x", "14", "5-1/4x by 14"},
+                    ProductStepCase{"down", Down, 11, "3-1/2x", "14", "1-3/4x by 14"},
+                    ProductStepCase{"least", Down, 11, "1-3/4x", "14", ""},
+                    ProductStepCase{"plies", Up, 2, "(2) 1-3/4x", "14", "(3) 1-3/4x by 14"},
+                    ProductStepCase{"with the depth", Up, 25, "3-1/2x", "6", "5-1/2x by 6"},
+                    ProductStepCase{"without the depth", Up, 25, "5-1/2x", "6", ""},
+                    ProductStepCase{"deeper", Deeper, 2, "1-3/4x", "11-7/8", "1-3/4x by 14"},
+                    ProductStepCase{"deepest", Deeper, 2, "1-3/4x", "20", ""},
+                    ProductStepCase{"shallower", Shallower, 10, "3-1/2x", "9-1/4", "3-1/2x by 8-5/8"},
+                    ProductStepCase{"shallowest", Shallower, 10, "3-1/2x", "4-3/8", ""},
+                    ProductStepCase{"own product", Up, 23, "3-1/2x", "14", ""}),
+    CaseName);
+
+TEST(StepSize, OfAPoleChangesItsDiameter)
+{
+    const auto stepped = [](SizeStep step, std::string_view diameter) {
+        MemberEntry entry;
+        entry.Custom.Roundoption = true;
+        entry.Custom.Diam = diameter;
+        MemberCandidate member;
+        ScriptedUser user;
+        EXPECT_EQ(IdentifyMember(entry, SpeciesGroup::Custom, user, member), Outcome::Done);
+        const auto next = StepSize(step, entry, member, SpeciesGroup::Custom);
+        return next ? next->Custom.Diam : "";
+    };
+    EXPECT_EQ(stepped(Deeper, "12.5"), "13.5");
+    EXPECT_EQ(stepped(Shallower, "6"), "5");
+    EXPECT_EQ(stepped(Shallower, "5.9"), "");
+    EXPECT_EQ(stepped(Deeper, "34.9"), "35.9");
+    EXPECT_EQ(stepped(Deeper, "35"), "");
+    EXPECT_EQ(stepped(Up, "12"), "");
 }
 
 }  // namespace

@@ -45,10 +45,20 @@ INSTANTIATE_TEST_SUITE_P(
                     FixedCase{"tube", Steel, SteelFamily::Tube, Simple, "Any"},
                     FixedCase{"plate", Steel, SteelFamily::Plate, Simple, "0"},
                     FixedCase{"pair", Steel, SteelFamily::DoublePlate, Simple, "0"},
+                    FixedCase{"composite", SpeciesGroup::Scl, SteelFamily::W, Simple, "0"},
                     FixedCase{"several spans", Wood, SteelFamily::W, SupportCondition::MultipleSpans, "0"},
                     FixedCase{"tube on several spans", Steel, SteelFamily::Tube,
                               SupportCondition::MultipleSpans, "0"}),
     CaseName);
+
+TEST(StartNewBeam, KeepsTheLengthThatItsMaterialFixes)
+{
+    Session session;
+    session.Problem.Combo1 = SpeciesGroup::Scl;
+    session.Problem.UBLtext = "0";
+    StartNewBeam(session);
+    EXPECT_EQ(session.Problem.UBLtext, "0");
+}
 
 TEST(SwitchMaterial, WritesWhatItFixesAndEmptiesTheBoxAfterwards)
 {

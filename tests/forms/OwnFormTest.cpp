@@ -91,6 +91,9 @@ TEST_F(OwnFormTest, AnotherValueTakesThePicksBack)
     EXPECT_EQ(ButtonText("LVLbut[0]"), "");
     EXPECT_FALSE(IsSeen("ButG[0]"));
     EXPECT_TRUE(Find<QPushButton>("CmdEnterValues").isDefault());
+    Type("Text1", "2600");
+    EXPECT_TRUE(Find<QPushButton>("CmdEnterValues").isDefault());
+    EXPECT_EQ(ButtonText("LVLbut[0]"), "");
 }
 
 TEST_F(OwnFormTest, ValuesOfAProductAreSavedAndFoundAgain)
@@ -223,6 +226,33 @@ TEST_F(OwnFormTest, RefusalsPointToTheirBox)
     Press("CmdTest");
     EXPECT_THAT(user.Told.back().Text, testing::StartsWith("Please check Breadth entry"));
     EXPECT_EQ(FocusName(), "Text6");
+}
+
+TEST_F(OwnFormTest, TabRunsFromTheProductToTheTestAndEndsWithTheFiles)
+{
+    Open(SpeciesGroup::Scl);
+    ChooseProduct(2);
+    TypeValues();
+    Press("CmdEnterValues");
+    Find<QComboBox>("Combo1").setFocus();
+    for (const std::string name :
+         {"Text1", "Text2", "Text4", "Text3", "CmdEnterValues", "LVLbut[0]", "LVLbut[1]", "LVLbut[2]",
+          "LVLbut[3]", "Text6", "Text7", "CmdTest", "LVLLoadDefault", "LVLsavedefault"}) {
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(FocusName(), name);
+    }
+    Find<QPushButton>("LVLbut[0]").setFocus();
+    Key(Qt::Key_Right);
+    EXPECT_EQ(FocusName(), "LVLbut[1]");
+}
+
+TEST_F(OwnFormTest, CustomWoodNeedsAFamily)
+{
+    Open(SpeciesGroup::Custom);
+    TypeValues();
+    Press("CmdEnterValues");
+    ASSERT_EQ(user.Told.size(), 1U);
+    EXPECT_THAT(user.Told[0].Text, testing::StartsWith("Please choose the breadths of the member"));
 }
 
 }  // namespace

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <set>
 #include <string>
 
 #include "core/SizeText.h"
@@ -14,29 +12,117 @@
 namespace kordavan {
 namespace {
 
-TEST(SclProducts, HaveNamesOfTheirOwn)
+struct ProductRow {
+    std::string_view Name;
+    std::string_view MakersLine;
+    std::string_view Breadths;
+    double DeepExponent;
+    double ShallowExponent;
+    double UnitWeight;  // pcf
+};
+
+/// From the makers' guides; products without an exponent take a volume factor or their own.
+constexpr std::array<ProductRow, SclProductCount> Rows{
+    ProductRow{"2.0E BC Versa-Lam 2800", "Boise LVL 2800",
+               "1-3/4x, 2-5/8x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x", 1.0 / 9, 1.0 / 9, 37},
+    ProductRow{"2.0E BC Versa-Lam 3100", "Boise LVL 3100", "3-1/2x, 5-1/4x, 7x", 1.0 / 9, 1.0 / 9, 37},
+    ProductRow{"1.9E TJ Microllam LVL", "Trus Joist LVL", "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x", 0.136,
+               0.136, 37},
+    ProductRow{"2.0E TJ Parallam W.S. PSL", "Trus Joist PSL", "2-11/16x, 3-1/2x, 5-1/4x, 7x", 1.0 / 9,
+               1.0 / 9, 45},
+    ProductRow{"2.0E TJ Parallam E.S. PSL", "Trus Joist PSL", "2-11/16x, 3-1/2x, 5-1/4x, 7x", 1.0 / 9,
+               1.0 / 9, 45},
+    ProductRow{"2.1E PW LVL", "Pacific Woodtech LVL", "1-3/4x, 3-1/2x", 0.2, 0.2, 38},
+    ProductRow{"2.1E BL onCenter LVL", "Blue Linx LVL", "1-3/4x, (2) 1-3/4x", 0.2, 0.125, 38},
+    ProductRow{"1.9E LP SolidStart LVL", "Lousiana Pacific LVL", "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x",
+               1.0 / 7, 1.0 / 9, 36},
+    ProductRow{"2.0E LP SolidStart LVL", "Lousiana Pacific LVL", "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x",
+               1.0 / 7, 1.0 / 9, 36},
+    ProductRow{"1.5E LP SolidStart LVL", "Lousiana Pacific LVL", "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x",
+               1.0 / 7, 1.0 / 9, 36},
+    ProductRow{"1.3E TJ TimberStrand LSL", "Trus Joist LSL", "3-1/2x", 0.092, 0.092, 38},
+    ProductRow{"Disc. 1.5E TJ TimberStrand LSL", "Trus Joist LSL", "3-1/2x, 1-3/4x, 5-1/4x", 0.092, 0.092,
+               38},
+    ProductRow{"1.55E TJ TimberStrand LSL", "Trus Joist LSL", "3-1/2x, 1-3/4x, 5-1/4x", 0.092, 0.092, 38},
+    ProductRow{"20F-1.6E CC NordicLam LSL", "Chantiers Chibougamau LSL", "1-3/4x, 2-1/2x, 3-1/2x, 5-1/2x", 0,
+               0, 35},
+    ProductRow{"24F-1.9E CC NordicLam LSL", "Chantiers Chibougamau LSL", "1-3/4x, 2-1/2x, 3-1/2x, 5-1/2x, 7x",
+               0, 0, 35},
+    ProductRow{"30F-2.2E CC NordicLam LSL", "Chantiers Chibougamau LSL", "3-1/2x, 5-1/2x, 7x", 0, 0, 37},
+    ProductRow{"2.0E WF West Fraser LVL", "West Fraser LVL", "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x",
+               0.136, 0.136, 37},
+    ProductRow{"1.8E WF West Fraser LVL", "West Fraser LVL", "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x",
+               0.136, 0.136, 37},
+    ProductRow{"1.7E WF West Fraser LVL", "West Fraser LVL", "3-1/2x, 1-3/4x", 0.111111, 0.111111, 37},
+    ProductRow{"1.3E WF West Fraser LVL", "West Fraser LVL", "1-1/4x, (2) 1-1/4x, (3) 1-1/4x, (4) 1-1/4x",
+               0.111111, 0.111111, 37},
+    ProductRow{"1.5E RFP RigidLam LVL", "Roseburg Forest Products LVL",
+               "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x", 0.125, 0.125, 37},
+    ProductRow{"2.0E RFP RigidLam LVL", "Roseburg Forest Products LVL",
+               "1-3/4x, (2) 1-3/4x, (3) 1-3/4x, (4) 1-3/4x", 0.125, 0.125, 37},
+    ProductRow{"2.1E RB Rosboro BigBeam LSL", "Rosboro BigBeam Hybrid LSL", "3-1/2x, 5-1/2x, 7x", 0, 0, 37},
+    ProductRow{"Custom SCL #1", "For SCL's Only, not for Glu-lam products.", "", 0, 0, 37.5},
+    ProductRow{"Custom SCL #2", "For SCL's Only, not for Glu-lam products.", "", 0, 0, 37.5},
+    ProductRow{"1.8E RB Rosboro X-Beam GLB", "Rosboro X-Beam Glu-Lam", "3-1/2x, 5-1/2x, 6-3/4x, 8-3/4x", 0, 0,
+               35},
+};
+
+TEST(SclProducts, AreThoseOfTheMakersGuides)
 {
-    std::set<std::string_view> names;
-    for (const SclProduct& product : SclProducts()) {
-        EXPECT_TRUE(names.insert(product.Name).second) << product.Name;
-        EXPECT_FALSE(product.LVLname.empty()) << product.Name;
+    for (std::size_t k = 0; k < SclProductCount; ++k) {
+        const SclProduct& product = SclProducts()[k];
+        std::string breadths;
+        for (const SclSize& size : product.Sizes) {
+            breadths += breadths.empty() ? "" : ", ";
+            breadths += size.Breadth;
+        }
+        EXPECT_EQ(product.Name, Rows[k].Name);
+        EXPECT_EQ(product.LVLname, Rows[k].MakersLine) << k;
+        EXPECT_EQ(breadths, Rows[k].Breadths) << k;
+        EXPECT_EQ(product.DeepExponent, Rows[k].DeepExponent) << k;
+        EXPECT_EQ(product.ShallowExponent, Rows[k].ShallowExponent) << k;
+        EXPECT_NEAR(product.DensityFactor, Rows[k].UnitWeight / 144, 2e-5) << k;
+        EXPECT_EQ(IsCustomScl(k), product.Sizes.empty()) << k;
     }
-    EXPECT_EQ(SclProducts()[10].Name, "1.3E TJ TimberStrand LSL");
-    EXPECT_EQ(SclProducts()[FirstCustomScl].Name, "Custom SCL #1");
-    EXPECT_EQ(SclProducts()[25].LVLname, "Rosboro X-Beam Glu-Lam");
 }
 
-TEST(SclProducts, ComeInBreadthsThatCanBeWritten)
+/// The greatest and the least depth, and how many there are.
+struct DepthRange {
+    std::size_t Product;
+    std::string_view Breadth;
+    std::string_view Least;
+    std::string_view Greatest;
+    std::size_t Count;
+};
+
+class SclDepthRangeTest : public testing::TestWithParam<DepthRange> {};
+
+TEST_P(SclDepthRangeTest, IsTheMakers)
 {
-    std::size_t sizes = 0;
-    for (const SclProduct& product : SclProducts()) {
-        for (const SclSize& size : product.Sizes) {
-            EXPECT_TRUE(FindBreadth(SizeFamily::Composite, size.Breadth)) << product.Name << size.Breadth;
-            ++sizes;
-        }
-    }
-    EXPECT_EQ(sizes, 84U);
+    const std::vector<DepthChoice> depths = SclDepths(GetParam().Product, GetParam().Breadth);
+    EXPECT_EQ(depths.front().Text, GetParam().Least);
+    EXPECT_EQ(depths.back().Text, GetParam().Greatest);
+    EXPECT_EQ(depths.size(), GetParam().Count);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Products, SclDepthRangeTest,
+    testing::Values(DepthRange{0, "1-3/4x", "5-1/2", "24", 11}, DepthRange{1, "3-1/2x", "5-1/2", "24", 11},
+                    DepthRange{2, "1-3/4x", "5-1/2", "20", 10}, DepthRange{3, "2-11/16x", "9-1/4", "18", 7},
+                    DepthRange{4, "2-11/16x", "9-1/4", "18", 7}, DepthRange{5, "1-3/4x", "5-1/2", "24", 12},
+                    DepthRange{6, "1-3/4x", "7-1/4", "24", 11}, DepthRange{7, "1-3/4x", "7-1/4", "18", 8},
+                    DepthRange{8, "1-3/4x", "7-1/4", "18", 8}, DepthRange{9, "1-3/4x", "7-1/4", "18", 8},
+                    DepthRange{10, "3-1/2x", "4-3/8", "11-1/4", 6},
+                    DepthRange{11, "3-1/2x", "9-1/4", "16", 6}, DepthRange{12, "3-1/2x", "9-1/4", "16", 6},
+                    DepthRange{13, "1-3/4x", "9-1/2", "24", 8}, DepthRange{14, "1-3/4x", "9-1/2", "24", 8},
+                    DepthRange{15, "3-1/2x", "9-1/2", "24", 8}, DepthRange{16, "1-3/4x", "7-1/4", "24", 11},
+                    DepthRange{17, "1-3/4x", "7-1/4", "24", 11}, DepthRange{18, "3-1/2x", "7-1/4", "24", 11},
+                    DepthRange{19, "1-1/4x", "9-1/2", "24", 8}, DepthRange{20, "1-3/4x", "5-1/2", "24", 11},
+                    DepthRange{21, "1-3/4x", "5-1/2", "24", 11}, DepthRange{22, "3-1/2x", "9", "24", 15},
+                    DepthRange{22, "5-1/2x", "9", "30", 19}, DepthRange{22, "7x", "9", "30", 19},
+                    DepthRange{23, "", "4-3/8", "36", 33}, DepthRange{24, "", "4-3/8", "36", 33},
+                    DepthRange{25, "3-1/2x", "6", "24", 17}, DepthRange{25, "5-1/2x", "6", "30", 21},
+                    DepthRange{25, "6-3/4x", "7-1/2", "36", 24}, DepthRange{25, "8-3/4x", "9", "36", 23}));
 
 /// Plies multiply the breadth of one.
 TEST(SclBreadths, AreWhatTheySay)
@@ -70,16 +156,6 @@ TEST(SclDepths, RiseAndAreWrittenInTheTradesWay)
             }
             EXPECT_GT(last, 0) << product << breadth;
         }
-    }
-}
-
-/// Unit weights in pcf, by product.
-TEST(SclProducts, WeighWhatTheirMakersSay)
-{
-    constexpr std::array<double, SclProductCount> pcf{37, 37, 37, 45, 45, 38, 38, 36, 36, 36, 38,   38,   38,
-                                                      35, 35, 37, 37, 37, 37, 37, 37, 37, 37, 37.5, 37.5, 35};
-    for (std::size_t product = 0; product < SclProductCount; ++product) {
-        EXPECT_NEAR(SclProducts()[product].DensityFactor, pcf[product] / 144, 2e-5) << product;
     }
 }
 

@@ -825,5 +825,15 @@ INSTANTIATE_TEST_SUITE_P(Roofs, HipRoundTripTest,
                                          HipCase{"slope with a load beside", true, "25", "12.3", "7.5"}),
                          CaseName);
 
+TEST(CriteriaRecord, NamesTheCompositeProduct)
+{
+    Session session;
+    session.Problem.Combo1 = SpeciesGroup::Scl;
+    session.Entry.Product = 2;
+    EXPECT_EQ(MakeCriteriaRecord(session, Day).Record.Text("Custom.Combo1"), "1.9E TJ Microllam LVL");
+    session.Problem.Combo1 = SpeciesGroup::Custom;
+    EXPECT_EQ(MakeCriteriaRecord(session, Day).Record.Text("Custom.Combo1"), "");
+}
+
 }  // namespace
 }  // namespace kordavan

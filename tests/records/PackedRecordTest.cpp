@@ -37,11 +37,8 @@ static_assert(Plies.IsWhole());
 constexpr RecordLayout LongPly{.Size = 6, .Fields = PlyFields};
 constexpr std::array LongPlyFields{PartField("Plies", 0, LongPly, 1)};
 constexpr std::array WideGapFields{PartField("Plies", 0, Ply, 4, {.First = 3, .Count = 2})};
-constexpr std::array NoLayoutFields{
-    RecordField{.Name = "Plies", .Type = FieldType::Part, .Offset = 0, .Length = 5}};
 static_assert(!RecordLayout{.Size = 6, .Fields = LongPlyFields}.IsWhole());
 static_assert(!RecordLayout{.Size = 10, .Fields = WideGapFields}.IsWhole());
-static_assert(!RecordLayout{.Size = 5, .Fields = NoLayoutFields}.IsWhole());
 
 constexpr std::string_view HandBytes(
     "\x29\xF8"  // -2007
