@@ -11,6 +11,8 @@
 #include "records/CriteriaRecord.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
+#include "records/DataRecordFile.h"
+#include "records/DataRecordLayout.h"
 #include "records/DefaultsFile.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecordFile.h"
@@ -43,6 +45,7 @@ void TellCriteria(const PackedRecord& record, const Session& /*session*/, UserPo
 
 constexpr std::array Kinds{
     RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteria},
+    RecordKind{"data-record", &DataRecordLayout, DataRecordTag, CheckDataRecordTag, TellNothing},
     RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValuesTag, TellCustomValues},
     RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},
     RecordKind{"scl", &SclLayout, SclTag, CheckSclTag, TellNothing},
