@@ -39,4 +39,17 @@ inline constexpr FileDialogText SaveCustomValuesDialog{.Title = "Save Custom Val
                                                        .Filters = CustomValuesFilters,
                                                        .SelectedFilter = 2};
 
+inline constexpr std::string_view DataRecordFilters = "All Files (*.*)|*.*|Kordavan Files (*.Dat)|*.Dat|";
+
+inline constexpr FileDialogText OpenDataRecordDialog{.Title = "Open Data Record",
+                                                     .FileName = "*.Dat",
+                                                     .DefaultExtension = {},
+                                                     .Filters = DataRecordFilters,
+                                                     .SelectedFilter = 2};
+inline constexpr FileDialogText SaveDataRecordDialog{.Title = "Save Data Record As",
+                                                     .FileName = "*.Dat",
+                                                     .DefaultExtension = "Dat",
+                                                     .Filters = DataRecordFilters,
+                                                     .SelectedFilter = 2};
+
 }  // namespace kordavan
