@@ -2,6 +2,7 @@
 
 #include "batch/AnswerWriter.h"
 #include "design/DataSheet.h"
+#include "design/SelectionRecord.h"
 
 namespace kordavan {
 

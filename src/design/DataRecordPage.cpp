@@ -46,7 +46,8 @@ public:
     {
         page.Texts.push_back({.Label = label,
                               .Text = std::string(text),
-                              .Area = {Margin + column.Left, top, column.Width, lineHeight},
+                              .Area = {Margin + column.Left, top, column.Width,
+                                       style == PageStyle::Title ? titleHeight : lineHeight},
                               .Align = column.Align,
                               .Style = style});
     }
@@ -62,7 +63,8 @@ public:
 
 private:
     static constexpr double ruleGap = 4;
-    static constexpr double lineHeight = 12;
+    static constexpr double titleHeight = 19;
+    static constexpr double lineHeight = 12.6;
 
     const DataSheet& sheet;
     RecordPage page;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/Message.h"
-#include "design/DataSheet.h"
+#include "design/Session.h"
 
 namespace kordavan {
 

@@ -8,6 +8,8 @@
 
 namespace kordavan {
 
+class PrinterPort;
+
 /// What the forms need of the desk besides the person: clock, shell and files.
 class DesktopPort {
 public:
@@ -24,6 +26,8 @@ public:
     /// The file that the person chooses; none when cancelled.
     virtual std::optional<std::string> AskOpenFile(const FileDialogText& text) = 0;
     virtual std::optional<std::string> AskSaveFile(const FileDialogText& text) = 0;
+
+    virtual PrinterPort& Printers() = 0;
 
     /// Where the files of fixed name lie.
     virtual std::string FixedFilesFolder() = 0;

@@ -36,10 +36,9 @@ QRectF InUnits(const PageRect& rect)
             rect.Height * UnitsPerPoint};
 }
 
-double SizeOf(PageStyle style, double textSize)
+bool IsFailure(const PageText& text)
 {
-    constexpr double title = 14;
-    return style == PageStyle::Title ? title : textSize;
+    return text.Style == PageStyle::Status && text.Text.starts_with("Fail");
 }
 
 void PaintDiagram(QPainter& painter, const QRectF& room, const LoadPicture& loads, const PageInk& ink)
@@ -49,10 +48,11 @@ void PaintDiagram(QPainter& painter, const QRectF& room, const LoadPicture& load
     palette.setColor(QPalette::Window, Qt::white);
     palette.setColor(QPalette::Text, ink.Text);
     palette.setColor(QPalette::WindowText, ink.Text);
-    constexpr double textPoints = 7;
+    constexpr int textPoints = 7;
     QFont font = painter.font();
-    font.setPixelSize(static_cast<int>(textPoints * UnitsPerPoint));
+    font.setPixelSize(textPoints);
     painter.save();
+    painter.scale(UnitsPerPoint, UnitsPerPoint);
     painter.setFont(font);
     const SketchColors colors(palette);
     BeamPainter(painter, room, colors).Draw(loads);
@@ -60,6 +60,13 @@ void PaintDiagram(QPainter& painter, const QRectF& room, const LoadPicture& load
 }
 
 }  // namespace
+
+QRectF SignArea(const QRectF& status)
+{
+    constexpr double share = 0.65;
+    const double side = status.height() * share;
+    return {status.left(), status.center().y() - side / 2, side, side};
+}
 
 PageInk PageInk::OnPaper()
 {
@@ -82,13 +89,20 @@ PageInk PageInk::OnScreen(const QPalette& palette)
             .Fail = FailColor(palette)};
 }
 
+double PageTextSize(PageStyle style, double textSize)
+{
+    constexpr double title = 14;
+    return style == PageStyle::Title ? title : textSize;
+}
+
 QFont PageFont(PageStyle style, double textSize, const QString& family)
 {
     QFont font(family);
     const bool isBold =
         style == PageStyle::Title || style == PageStyle::HeaderLine || style == PageStyle::ColumnHead;
     font.setBold(isBold);
-    font.setPixelSize(static_cast<int>(SizeOf(style, textSize) * UnitsPerPoint));
+    font.setStyleStrategy(QFont::PreferNoShaping);  // ligatures could not be searched for
+    font.setPixelSize(static_cast<int>(PageTextSize(style, textSize) * UnitsPerPoint));
     return font;
 }
 
@@ -128,8 +142,16 @@ void PagePainter::PaintGround(QPainter& painter, const QRectF& target, const Loa
         painter.drawLine(QPointF(rule.Left * UnitsPerPoint, y),
                          QPointF((rule.Left + rule.Width) * UnitsPerPoint, y));
     }
+    for (const PageText& text : page.Texts) {
+        if (text.Style == PageStyle::Status && !text.Text.empty()) {
+            const bool fails = IsFailure(text);
+            PaintSign(painter, SignArea(InUnits(text.Area)), fails ? Sign::Fails : Sign::Passes,
+                      fails ? ink.Fail : ink.Text);
+        }
+    }
     if (page.Diagram && loads != nullptr) {
-        PaintDiagram(painter, InUnits(*page.Diagram), *loads, ink);
+        const PageRect& room = *page.Diagram;
+        PaintDiagram(painter, QRectF(room.Left, room.Top, room.Width, room.Height), *loads, ink);
     }
     painter.restore();
 }
@@ -140,13 +162,10 @@ void PagePainter::PaintText(QPainter& painter, const PageText& text) const
     const QFont font = PageFont(text.Style, page.TextSize, family);
     const QString shown = Text(text.Text);
     QRectF area = InUnits(text.Area);
-    const bool fails = text.Style == PageStyle::Status && text.Text.starts_with("Fail");
+    const bool fails = IsFailure(text);
     painter.save();
     if (text.Style == PageStyle::Status) {
-        const double side = area.height() * 0.7;
-        const QRectF sign(area.left(), area.center().y() - side / 2, side, side);
-        PaintSign(painter, sign, fails ? Sign::Fails : Sign::Passes, fails ? ink.Fail : ink.Text);
-        area.setLeft(sign.right() + side / 3);
+        area.setLeft(SignArea(area).right() + SignArea(area).width() / 3);
     }
     painter.setFont(font);
     painter.setPen(text.Style == PageStyle::Caption ? ink.Caption : ink.Text);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QRectF>
 #include <QString>
@@ -11,6 +12,9 @@ class QPainter;
 class QPalette;
 
 namespace kordavan {
+
+/// Where the sign of a status stands, before its text.
+QRectF SignArea(const QRectF& status);
 
 /// How a page is painted: black on white on paper, in the colours of the palette on the screen.
 struct PageInk {
@@ -25,6 +29,9 @@ struct PageInk {
     static PageInk OnScreen(const QPalette& palette);
 };
 
+/// Size of a style in points, on a page whose cells are in this size.
+double PageTextSize(PageStyle style, double textSize);
+
 /// The font of a style on a page of this size; the sizes of a page are points.
 QFont PageFont(PageStyle style, double textSize, const QString& family);
 
@@ -36,7 +43,7 @@ public:
     /// @param loads  shown in the page's room for a diagram; none leaves it empty
     void Paint(QPainter& painter, const QRectF& target, const LoadPicture* loads) const;
 
-    /// The rules, tints and the diagram alone, for a screen whose texts are controls.
+    /// The rules, tints, signs and the diagram alone, for a screen whose texts are controls.
     void PaintGround(QPainter& painter, const QRectF& target, const LoadPicture* loads) const;
 
 private:

@@ -13,6 +13,8 @@
 #include "forms/Form25.h"
 #include "forms/Form3.h"
 #include "forms/Form5.h"
+#include "forms/Form6.h"
+#include "forms/Form7.h"
 #include "forms/NumericBox.h"
 #include "records/DefaultsFile.h"
 #include "records/RecentFiles.h"
@@ -71,6 +73,10 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form2>(*this);
         case Screen::TestReport:
             return std::make_unique<Form5>(*this);
+        case Screen::Record:
+            return std::make_unique<Form6>(*this);
+        case Screen::Print:
+            return std::make_unique<Form7>(*this);
         case Screen::Settings:
             return std::make_unique<Form13>(*this);
         case Screen::Notes:

@@ -23,6 +23,8 @@ enum class Screen {
     SteelSelection,
     OwnSelection,
     TestReport,
+    Record,
+    Print,
     Settings,
     Notes,
     Calculator,

@@ -8,13 +8,6 @@
 
 namespace kordavan {
 
-/// The bare texts that a record is headed with, without the prefixes of the sheet.
-struct RecordHeading {
-    std::string Project;
-    std::string Description;
-    std::string BeamId;
-};
-
 /// The sheet as a record. A text longer than its slot is cut; captions that stand on every sheet are not
 /// stored.
 PackedRecord MakeDataRecord(const DataSheet& sheet, const RecordHeading& heading);

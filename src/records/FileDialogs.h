@@ -52,4 +52,10 @@ inline constexpr FileDialogText SaveDataRecordDialog{.Title = "Save Data Record 
                                                      .Filters = DataRecordFilters,
                                                      .SelectedFilter = 2};
 
+inline constexpr FileDialogText SavePdfDialog{.Title = "Save as PDF",
+                                              .FileName = "*.pdf",
+                                              .DefaultExtension = "pdf",
+                                              .Filters = "All Files (*.*)|*.*|PDF Files (*.pdf)|*.pdf|",
+                                              .SelectedFilter = 2};
+
 }  // namespace kordavan

@@ -1,0 +1,146 @@
+#include "design/RecordDesk.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "design/DataSheetFill.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr std::string_view NotesQuestion =
+    "There are currently notes on the Note Clipboard. Would you like them included on the printed Data "
+    "Record?";
+constexpr std::string_view LostOnReport =
+    "The current information on the Data Record was loaded from a disk file and is only text.  It will be "
+    "lost "
+    "if you go to the Report Form3.\n"
+    "You may re-load this Data Record text file later if you choose to return.";
+constexpr std::string_view LostOnCriteria =
+    "The current information on the Data Record was loaded from a disk file and is only text.  It will be "
+    "lost "
+    "if you go to the Criteria Form1.\n"
+    "You may reload the Data Record text file later if you choose to return.";
+
+/// A cell of the sheet's head, with the prefix that it has on the screen.
+struct HeadCell {
+    std::size_t Label;
+    std::string_view Prefix;
+    std::string RecordHeading::*Text;
+};
+
+constexpr std::array HeadCells{
+    HeadCell{1, "Project: ", &RecordHeading::Project},
+    HeadCell{2, "Beam ID: ", &RecordHeading::BeamId},
+    HeadCell{3, "Description: ", &RecordHeading::Description},
+    HeadCell{4, "Date: ", &RecordHeading::Date},
+    HeadCell{169, "Prepared by: ", &RecordHeading::Initials},
+};
+
+void HeadSheet(const RecordHeading& heading, DataSheet& sheet)
+{
+    for (const HeadCell& cell : HeadCells) {
+        sheet[cell.Label] = std::string(cell.Prefix) + heading.*cell.Text;
+    }
+    sheet[132] = heading.Heading1;
+    sheet.Label133Missing = heading.Heading2;
+}
+
+/// The heading of a sheet that stands, its prefixes taken off.
+RecordHeading HeadingOf(const DataSheet& sheet)
+{
+    RecordHeading heading;
+    for (const HeadCell& cell : HeadCells) {
+        std::string_view text = sheet[cell.Label];
+        if (text.starts_with(cell.Prefix)) {
+            text.remove_prefix(cell.Prefix.size());
+        }
+        heading.*cell.Text = text;
+    }
+    heading.Heading1 = sheet[132];
+    heading.Heading2 = sheet.Label133Missing;
+    return heading;
+}
+
+Outcome LeaveLoadedRecord(Session& session, std::string_view warning, UserPort& user)
+{
+    if (!session.Record.FromDisk) {
+        return Outcome::Done;
+    }
+    if (!user.Ask(RiskyQuestion(warning))) {
+        return Outcome::Refused;
+    }
+    session.Record = {};
+    return Outcome::Done;
+}
+
+}  // namespace
+
+void ShowRecord(Session& session, CalendarDay today, UserPort& user)
+{
+    RecordOnShow& record = session.Record;
+    if (record.FromDisk) {
+        return;
+    }
+    record.Sheet = FillDataRecord(session, today, user);
+    if (record.HeaderChanged) {
+        HeadSheet(record.Heading, record.Sheet);
+    }
+}
+
+void PrepareHeading(Session& session, CalendarDay today)
+{
+    RecordOnShow& record = session.Record;
+    if (record.HeaderChanged) {
+        return;
+    }
+    const std::string date = record.Heading.Date;
+    record.Heading = record.FromDisk ? HeadingOf(record.Sheet)
+                                     : RecordHeading{.Project = session.Problem.Proj,
+                                                     .Description = session.Problem.Descrip,
+                                                     .BeamId = session.Problem.ID,
+                                                     .Heading1 = session.Header.Heading1,
+                                                     .Heading2 = session.Header.Heading2,
+                                                     .Date = date,
+                                                     .Initials = session.Header.Initialbox};
+    if (record.Heading.Date.empty()) {
+        record.Heading.Date = ShortDate(today);
+    }
+}
+
+void ClearHeading(Session& session)
+{
+    session.Record.Heading = {};
+}
+
+void TakeHeading(Session& session, CalendarDay today)
+{
+    RecordOnShow& record = session.Record;
+    if (record.Heading.Date.empty()) {
+        record.Heading.Date = ShortDate(today);
+    }
+    HeadSheet(record.Heading, record.Sheet);
+    record.HeaderChanged = true;
+}
+
+bool AskToPrintNotes(const Session& session, UserPort& user)
+{
+    const ReportNoteLines& notes = session.Record.Sheet.ReportNotes;
+    const bool hasNotes =
+        std::any_of(notes.begin(), notes.end(), [](const std::string& note) { return !note.empty(); });
+    return hasNotes && user.Ask(Question(NotesQuestion));
+}
+
+Outcome LeaveForReport(Session& session, UserPort& user)
+{
+    return LeaveLoadedRecord(session, LostOnReport, user);
+}
+
+Outcome LeaveForCriteria(Session& session, UserPort& user)
+{
+    return LeaveLoadedRecord(session, LostOnCriteria, user);
+}
+
+}  // namespace kordavan

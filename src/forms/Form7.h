@@ -1,0 +1,56 @@
+#pragma once
+
+#include <optional>
+
+#include "design/LoadPicture.h"
+#include "design/RecordPage.h"
+#include "forms/Bindings.h"
+#include "forms/Form.h"
+
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+namespace kordavan {
+
+class PagePreview;
+
+/// Between a record and its printer: the heading of the page, and the page as it will print.
+class Form7 : public Form {
+    Q_OBJECT
+
+public:
+    explicit Form7(Walk& walk);
+
+    void Activate() override;
+
+    /// The loads of the record to print; none for a record of text alone.
+    void SetLoads(const std::optional<LoadPicture>& newLoads) { loads = newLoads; }
+
+protected:
+    QAbstractButton* DefaultCommand() override;
+    void GoBack() override;
+
+private:
+    void BuildHeading(QGridLayout& grid);
+    void BuildFoot();
+    void BuildMenus();
+    void Refresh();
+    RecordPage Page(bool hasNotes);
+    std::string FontFamily();
+    void OnClear();
+    void OnPrint();
+    void OnSave();
+    void OnPdf();
+    void OnSetup();
+    void OnFont();
+
+    Bindings boxes;
+    std::optional<LoadPicture> loads;
+    PagePreview* preview = nullptr;
+    QLabel* panel = nullptr;
+    QPushButton* print = nullptr;
+};
+
+}  // namespace kordavan
