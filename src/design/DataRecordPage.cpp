@@ -64,7 +64,7 @@ public:
 private:
     static constexpr double ruleGap = 4;
     static constexpr double titleHeight = 19;
-    static constexpr double lineHeight = 12.6;
+    static constexpr double lineHeight = 12.3;
 
     const DataSheet& sheet;
     RecordPage page;
@@ -280,7 +280,7 @@ void WriteLoads(PageWriter& writer)
     constexpr Column liveCaption{228, 62, PageAlign::Left};
     constexpr Column live{290, 84, PageAlign::Left};
     constexpr Column backspan{390, 150, PageAlign::Left};
-    writer.Cell(166, CaptionColumn, PageStyle::ColumnHead);
+    writer.Cell(166, {0, 70, PageAlign::Left}, PageStyle::ColumnHead);
     writer.Cell(72, totalCaption, PageStyle::Caption);
     writer.Cell(73, total);
     writer.Cell(117, liveCaption, PageStyle::Caption);

@@ -133,6 +133,11 @@ bool AskToPrintNotes(const Session& session, UserPort& user)
     return hasNotes && user.Ask(Question(NotesQuestion));
 }
 
+std::string PrintFontOf(const Session& session)
+{
+    return session.PrintFont.empty() ? "Arial" : session.PrintFont;
+}
+
 Outcome LeaveForReport(Session& session, UserPort& user)
 {
     return LeaveLoadedRecord(session, LostOnReport, user);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/Message.h"
 #include "design/Session.h"
 
@@ -26,6 +28,9 @@ bool AskToPrintNotes(const Session& session, UserPort& user);
 /// stays.
 Outcome LeaveForReport(Session& session, UserPort& user);
 Outcome LeaveForCriteria(Session& session, UserPort& user);
+
+/// The font of print-outs: Arial unless another is chosen.
+std::string PrintFontOf(const Session& session);
 
 namespace PrintTexts {
 inline constexpr std::string_view ResetOrientation =

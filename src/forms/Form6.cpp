@@ -167,7 +167,7 @@ void Form6::SaveAsPdf()
     if (!path) {
         return;
     }
-    const std::string fault = SavePdf(*path, Page(), Loads(), Text(TheSession().PrintFont));
+    const std::string fault = SavePdf(*path, Page(), Loads(), Text(PrintFontOf(TheSession())));
     if (!fault.empty()) {
         RefuseSaving(*path, fault, User());
     }

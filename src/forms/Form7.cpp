@@ -28,7 +28,6 @@ constexpr std::string_view PageHelp =
     "Print, or Enter, prints the page on the printer of Print Setup. Save as PDF needs no printer. Esc leads "
     "back to the record.";
 
-constexpr std::string_view UsualFont = "Arial";
 constexpr std::string_view NoPrinter =
     "No printer is installed on this system. The page can be saved as a PDF.";
 
@@ -138,7 +137,7 @@ void Form7::BuildMenus()
 void Form7::Refresh()
 {
     boxes.Show();
-    preview->Show(Page(true), loads, Text(FontFamily()));
+    preview->Show(Page(true), loads, Text(PrintFontOf(TheSession())));
 }
 
 /// The sheet under the heading as it is typed; it takes it for good when it is printed or saved.
@@ -149,12 +148,6 @@ RecordPage Form7::Page(bool hasNotes)
     return LayOutDataRecord(
         headed.Record.Sheet,
         {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = loads.has_value()});
-}
-
-std::string Form7::FontFamily()
-{
-    const std::string& chosen = TheSession().PrintFont;
-    return chosen.empty() ? std::string(UsualFont) : chosen;
 }
 
 void Form7::OnClear()
@@ -178,7 +171,8 @@ void Form7::OnPrint()
     panel->setText(QStringLiteral("Printing, one moment please..."));
     panel->repaint();
     const RecordPage page = Page(hasNotes);
-    const PrintEnd end = printers.Print({.Page = page, .Loads = loads, .Family = Text(FontFamily())});
+    const PrintEnd end =
+        printers.Print({.Page = page, .Loads = loads, .Family = Text(PrintFontOf(TheSession()))});
     panel->setText({});
     if (TheSession().RestoreDefaultPrinter) {
         printers.UsePrinter(usual);
@@ -206,7 +200,7 @@ void Form7::OnPdf()
     if (const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SavePdfDialog)) {
         TakeHeading(TheSession(), TheWalk().Desktop().Today());
         Refresh();
-        const std::string fault = SavePdf(*path, Page(true), loads, Text(FontFamily()));
+        const std::string fault = SavePdf(*path, Page(true), loads, Text(PrintFontOf(TheSession())));
         if (!fault.empty()) {
             RefuseSaving(*path, fault, User());
         }
@@ -221,7 +215,7 @@ void Form7::OnSetup()
 void Form7::OnFont()
 {
     if (const std::optional<std::string> family =
-            TheWalk().Desktop().Printers().AskFont(*this, FontFamily())) {
+            TheWalk().Desktop().Printers().AskFont(*this, PrintFontOf(TheSession()))) {
         TheSession().PrintFont = *family;
         Refresh();
     }

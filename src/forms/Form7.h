@@ -38,7 +38,6 @@ private:
     void BuildMenus();
     void Refresh();
     RecordPage Page(bool hasNotes);
-    std::string FontFamily();
     void OnClear();
     void OnPrint();
     void OnSave();

@@ -98,6 +98,7 @@ double PageTextSize(PageStyle style, double textSize)
 QFont PageFont(PageStyle style, double textSize, const QString& family)
 {
     QFont font(family);
+    font.setStyleHint(QFont::SansSerif);
     const bool isBold =
         style == PageStyle::Title || style == PageStyle::HeaderLine || style == PageStyle::ColumnHead;
     font.setBold(isBold);
