@@ -215,6 +215,7 @@ void Form1::MakeMenus()
     QMenu& options = AddMenu("&Options");
     AddCommand(options, {"MnuDefaults", "Edition, print header, load pairs and other standing choices"},
                "Set &Defaults", [this] { TheWalk().Go(Screen::Settings); });
+    diagram = &AddDiagramCommand(AddMenu("&Go to"));
     AddToolsMenu();
     AddHelpMenu(Page);
 }
@@ -305,6 +306,7 @@ void Form1::Refresh()
     tables->setCurrentIndex(static_cast<int>(screen.Tables));
     sketch->Show(ReadLoadPicture(session));
     resultLine->setText(Text(screen.SavePanel));
+    diagram->setEnabled(TheWalk().AnalysisCount > 0);
     calculate->setDefault(!screen.MustCalculateHipLoad);
 }
 
@@ -385,6 +387,7 @@ void Form1::Calculate()
     try {
         if (CalculateAction(TheSession(), User(), progress) == Outcome::Done) {
             ++TheWalk().AnalysisCount;
+            TheWalk().PutAway(Screen::LoadDiagram);
             OpenSelection();
         } else {
             Refresh();

@@ -85,6 +85,7 @@ private:
     QLabel* resultLine = nullptr;
     QPushButton* calculate = nullptr;
     Form4* gauge = nullptr;
+    QAction* diagram = nullptr;
     std::array<QAction*, MostRecentFiles> recentFiles{};
 };
 

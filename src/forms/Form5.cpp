@@ -203,6 +203,7 @@ void Form5::BuildMenus()
     AddCommand(goTo, {"MnuBack", "Back to the selection (Esc)"}, "&Selection Form 2", [this] { GoBack(); });
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
+    AddDiagramCommand(goTo);
     AddToolsMenu();
     AddHelpMenu(Page);
     QAction* const back = menuBar()->addAction(QStringLiteral("&Back"));
@@ -224,6 +225,7 @@ void Form5::ShowReport()
     }
     ShowOverall();
     stepping->Show(TheSession(), *selectButton);
+    TheWalk().RefreshBeside(Screen::LoadDiagram);
 }
 
 void Form5::ShowOverall()

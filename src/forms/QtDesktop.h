@@ -17,6 +17,7 @@ public:
     void EndProgram() override;
     std::optional<std::string> AskOpenFile(const FileDialogText& text) override;
     std::optional<std::string> AskSaveFile(const FileDialogText& text) override;
+    void CopyPicture(const QImage& picture, const std::string& words) override;
     std::string FixedFilesFolder() override;
 
 private:

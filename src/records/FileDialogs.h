@@ -39,4 +39,11 @@ inline constexpr FileDialogText SaveCustomValuesDialog{.Title = "Save Custom Val
                                                        .Filters = CustomValuesFilters,
                                                        .SelectedFilter = 2};
 
+inline constexpr FileDialogText SavePictureDialog{
+    .Title = "Save Picture As",
+    .FileName = "*.png",
+    .DefaultExtension = "png",
+    .Filters = "PNG Pictures (*.png)|*.png|SVG Drawings (*.svg)|*.svg|",
+    .SelectedFilter = 1};
+
 }  // namespace kordavan
