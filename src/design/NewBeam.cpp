@@ -89,6 +89,7 @@ void StartNewBeam(Session& session)
     session.Unbalanced = {};
     session.Restore = {};
     session.SteelPicks = {};
+    session.Record = {};
     session.Entry.ShapeName.clear();
 }
 

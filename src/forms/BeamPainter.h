@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPolygonF>
 #include <QRectF>
 #include <QString>
 #include <vector>
@@ -35,6 +36,9 @@ struct DrawnLoad {
 /// edge.
 class BeamPainter {
 public:
+    /// Beside the drawn beam, in heights of a line of text.
+    static constexpr double SideMargin = 3.5;
+
     BeamPainter(QPainter& painter, const QRectF& area, const SketchColors& colors);
 
     std::vector<DrawnLoad> Draw(const LoadPicture& picture);
@@ -48,8 +52,10 @@ private:
     void DrawSupport(double x, int number);
     void DrawDimensions(const LoadPicture& picture);
     void DrawDistributed(const PictureLoad& load, int row);
+    void Hatch(const QPolygonF& shape, const QColor& color);
     void DrawEquivalent(const LoadPicture& picture);
     void DrawPoint(const PictureLoad& load);
+    QRectF ShaftOf(const PictureLoad& load) const;
     void DrawUnplaced(const PictureLoad& load);
     void DrawCaption(const PictureLoad& load, QPointF at);
     QColor ColorOf(const PictureLoad& load) const;
@@ -69,7 +75,7 @@ private:
     double largestPoint = 0;
     int unplacedCount = 0;
     std::vector<std::vector<std::pair<double, double>>> rows;
-    std::vector<QRectF> captions;
+    std::vector<QRectF> occupied;  // by arrows and captions
     std::vector<DrawnLoad> drawn;
 };
 

@@ -6,6 +6,8 @@
 #include "design/SelectionRecord.h"
 #include "records/FileDialogs.h"
 
+class QImage;
+
 namespace kordavan {
 
 class PrinterPort;
@@ -28,6 +30,8 @@ public:
     virtual std::optional<std::string> AskSaveFile(const FileDialogText& text) = 0;
 
     virtual PrinterPort& Printers() = 0;
+    /// Puts a picture and what it says in words on the clipboard.
+    virtual void CopyPicture(const QImage& picture, const std::string& words) = 0;
 
     /// Where the files of fixed name lie.
     virtual std::string FixedFilesFolder() = 0;

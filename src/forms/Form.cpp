@@ -120,6 +120,13 @@ void Form::AddToolsMenu()
         [this] { currentWalk.ShowBeside(Screen::Notes); }, QKeySequence(Qt::CTRL | Qt::Key_T));
 }
 
+QAction& Form::AddDiagramCommand(QMenu& goTo)
+{
+    return AddCommand(
+        goTo, {"MnuDiagram", "Shear, moment and deflection of the beam as calculated"}, "&Load Diagram",
+        [this] { currentWalk.ShowBeside(Screen::LoadDiagram); }, QKeySequence(Qt::Key_F8));
+}
+
 HelpButton* Form::MakeHelp(const HelpText& help, std::initializer_list<std::string_view> boxes)
 {
     auto* const button = new HelpButton(help.Button, help.Topic, boxes);

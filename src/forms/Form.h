@@ -60,6 +60,9 @@ protected:
     /// The tools that stand beside every form of the walk.
     void AddToolsMenu();
 
+    /// The command that shows the load diagram beside the form.
+    QAction& AddDiagramCommand(QMenu& goTo);
+
     /// Tells a text of the program's own help.
     void TellHelp(std::string_view text);
 

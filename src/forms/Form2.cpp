@@ -172,6 +172,7 @@ void Form2::BuildMenus()
     AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
+    AddDiagramCommand(goTo);
     AddToolsMenu();
     AddHelpMenu(Page);
 }

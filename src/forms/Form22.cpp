@@ -227,6 +227,7 @@ void Form22::BuildMenus()
     AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
+    AddDiagramCommand(goTo);
     AddToolsMenu();
     AddHelpMenu(Page);
 }

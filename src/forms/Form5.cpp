@@ -206,6 +206,7 @@ void Form5::BuildMenus()
                [this] { TheWalk().Go(Screen::Criteria); });
     AddCommand(goTo, {"MnuDataRecord", "Puts this member on record and shows its Data Record"},
                "&Data Record", [this] { OnSelectMember(); });
+    AddDiagramCommand(goTo);
     AddToolsMenu();
     AddHelpMenu(Page);
     QAction* const back = menuBar()->addAction(QStringLiteral("&Back"));
@@ -227,6 +228,7 @@ void Form5::ShowReport()
     }
     ShowOverall();
     stepping->Show(TheSession(), *selectButton);
+    TheWalk().RefreshBeside(Screen::LoadDiagram);
 }
 
 void Form5::ShowOverall()

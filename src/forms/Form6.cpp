@@ -49,9 +49,6 @@ Form6::Form6(Walk& theWalk) : Form(theWalk, "Form6"), sheet(new RecordSheet)
 void Form6::Activate()
 {
     ShowRecord(TheSession(), TheWalk().Desktop().Today(), User());
-    if (TheSession().Restore.LoadsMultipliedFlag) {
-        loads = ReadLoadPicture(TheSession());
-    }
     ShowSheet();
     print->setFocus(Qt::OtherFocusReason);
 }
@@ -74,6 +71,7 @@ void Form6::BuildMenus()
     QMenu& goTo = AddMenu("&Go to");
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { GoToCriteria(); });
+    AddDiagramCommand(goTo);
     back = &AddCommand(goTo, {"MnuBack", "Back to the report (Esc)"}, "&Report Form3", [this] { GoBack(); });
     AddToolsMenu();
     AddHelpMenu(Page6);
@@ -112,14 +110,14 @@ void Form6::ShowSheet()
 RecordPage Form6::Page()
 {
     const RecordOnShow& record = TheSession().Record;
-    return LayOutDataRecord(record.Sheet, {.HighDpi = TheSession().HighDPI,
-                                           .HasNotes = true,
-                                           .HasDiagram = !record.FromDisk && loads.has_value()});
+    return LayOutDataRecord(
+        record.Sheet, {.HighDpi = TheSession().HighDPI, .HasNotes = true, .HasDiagram = !record.FromDisk});
 }
 
 std::optional<LoadPicture> Form6::Loads()
 {
-    return TheSession().Record.FromDisk ? std::nullopt : loads;
+    return TheSession().Record.FromDisk ? std::nullopt
+                                        : std::optional(PictureOfCalculated(TheSession().Numbers));
 }
 
 void Form6::GoToPrint()

@@ -46,7 +46,6 @@ private:
     QPushButton* print = nullptr;
     QAction* back = nullptr;
     QAction* backInBar = nullptr;
-    std::optional<LoadPicture> loads;
 };
 
 }  // namespace kordavan

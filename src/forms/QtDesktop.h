@@ -19,6 +19,7 @@ public:
     std::optional<std::string> AskOpenFile(const FileDialogText& text) override;
     std::optional<std::string> AskSaveFile(const FileDialogText& text) override;
     PrinterPort& Printers() override { return printers; }
+    void CopyPicture(const QImage& picture, const std::string& words) override;
     std::string FixedFilesFolder() override;
 
 private:

@@ -6,6 +6,7 @@
 #include "design/NewBeam.h"
 #include "forms/EntryDiagram.h"
 #include "forms/Form1.h"
+#include "forms/Form11.h"
 #include "forms/Form13.h"
 #include "forms/Form2.h"
 #include "forms/Form21.h"
@@ -77,6 +78,8 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form6>(*this);
         case Screen::Print:
             return std::make_unique<Form7>(*this);
+        case Screen::LoadDiagram:
+            return std::make_unique<Form11>(*this);
         case Screen::Settings:
             return std::make_unique<Form13>(*this);
         case Screen::Notes:
@@ -136,6 +139,27 @@ void Walk::ShowBeside(Screen screen)
     form.show();
     form.raise();
     form.activateWindow();
+}
+
+void Walk::RefreshBeside(Screen screen)
+{
+    if (Form* const form = SeenForm(screen)) {
+        form->Activate();
+    }
+}
+
+void Walk::PutAway(Screen screen)
+{
+    if (Form* const form = SeenForm(screen)) {
+        form->hide();
+    }
+}
+
+/// A form that has been made and is on the screen; none else.
+Form* Walk::SeenForm(Screen screen) const
+{
+    const auto form = forms.find(screen);
+    return form != forms.end() && form->second->isVisible() ? form->second.get() : nullptr;
 }
 
 void Walk::AskToExit()

@@ -25,6 +25,7 @@ enum class Screen {
     TestReport,
     Record,
     Print,
+    LoadDiagram,
     Settings,
     Notes,
     Calculator,
@@ -81,6 +82,12 @@ public:
     /// Shows a screen beside the one in front, which stays.
     void ShowBeside(Screen screen);
 
+    /// Fills a screen that stands beside again, if it is seen.
+    void RefreshBeside(Screen screen);
+
+    /// Hides a screen that stands beside, if it is seen.
+    void PutAway(Screen screen);
+
     /// Asks whether to end the program, and ends it on Yes.
     void AskToExit();
 
@@ -97,6 +104,7 @@ public:
 
 private:
     std::unique_ptr<Form> MakeForm(Screen screen);
+    Form* SeenForm(Screen screen) const;
     void RememberBox(QWidget* now);
     void Center(Form& form) const;
 

@@ -58,4 +58,11 @@ inline constexpr FileDialogText SavePdfDialog{.Title = "Save as PDF",
                                               .Filters = "All Files (*.*)|*.*|PDF Files (*.pdf)|*.pdf|",
                                               .SelectedFilter = 2};
 
+inline constexpr FileDialogText SavePictureDialog{
+    .Title = "Save Picture As",
+    .FileName = "*.png",
+    .DefaultExtension = "png",
+    .Filters = "PNG Pictures (*.png)|*.png|SVG Drawings (*.svg)|*.svg|",
+    .SelectedFilter = 1};
+
 }  // namespace kordavan

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -64,6 +65,11 @@ public:
     std::optional<std::string> AskOpenFile(const FileDialogText& text) override { return Choose(text); }
     std::optional<std::string> AskSaveFile(const FileDialogText& text) override { return Choose(text); }
     PrinterPort& Printers() override { return Printer; }
+    void CopyPicture(const QImage& picture, const std::string& words) override
+    {
+        CopiedPicture = picture;
+        CopiedWords = words;
+    }
     std::string FixedFilesFolder() override { return Text(Folder.path()); }
 
     /// A file in the folder of this test.
@@ -71,6 +77,8 @@ public:
 
     std::optional<std::string> ChosenFile;  // by the next dialog; none cancels it
     std::vector<std::string> DialogTitles;  // of the dialogs shown
+    QImage CopiedPicture;                   // what the clipboard holds
+    std::string CopiedWords;
     QTemporaryDir Folder;
     ScriptedPrinter Printer;
     int ExplorersOpened = 0;
