@@ -102,7 +102,7 @@ void WriteMember(PageWriter& writer, const DataSheet& sheet)
 {
     writer.NextLine(0.15);
     writer.Cell(5, WholeWidth, PageStyle::Title);
-    writer.NextLine(1.5);
+    writer.NextLine(1.6);
     writer.Text(6, WithoutLeadingComma(sheet[6]), WholeWidth, PageStyle::Figure);
     writer.NextLine(1.35);
 }
@@ -309,7 +309,7 @@ void WriteNotes(PageWriter& writer, const DataSheet& sheet)
     }
     writer.Rule();
     writer.Text(0, "Notes", WholeWidth, PageStyle::Title);
-    writer.NextLine(1.5);
+    writer.NextLine(1.6);
     for (const std::string& note : sheet.ReportNotes) {
         writer.Text(0, note, WholeWidth, PageStyle::Note);
         writer.NextLine();

@@ -30,13 +30,13 @@ struct DataSheet {
 
 /// What a record is headed with, as its boxes hold it, without the prefixes of the sheet.
 struct RecordHeading {
-    std::string Project;
-    std::string Description;
-    std::string BeamId;
-    std::string Heading1;  // lines above the record
-    std::string Heading2;
-    std::string Date;
-    std::string Initials;
+    std::string Project{};
+    std::string Description{};
+    std::string BeamId{};
+    std::string Heading1{};  // lines above the record
+    std::string Heading2{};
+    std::string Date{};
+    std::string Initials{};
 };
 
 /// The Data Record on the screen.

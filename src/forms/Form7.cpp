@@ -84,7 +84,7 @@ void Form7::BuildHeading(QGridLayout& grid)
         ++row;
         return box;
     };
-    add({.Name = "Heading1", .Tip = "First line above the record"}, MostHeading, "&Header lines",
+    add({.Name = "Heading1", .Tip = "First line above the record"}, MostHeading, "He&ader lines",
         heading.Heading1);
     QLineEdit* const second =
         MakeTextBox({.Name = "Heading2", .Tip = "Second line above the record"}, MostHeading);

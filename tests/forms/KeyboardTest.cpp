@@ -128,8 +128,8 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
         EXPECT_THAT(DoubledMnemonics(form), testing::IsEmpty());
     }
     for (const Screen screen :
-         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram}) {
+         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Print,
+          Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
 }
@@ -144,9 +144,10 @@ QString SpokenName(const QWidget& control)
 
 TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
-    for (const Screen screen : {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection,
-                                Screen::OwnSelection, Screen::TestReport, Screen::Settings, Screen::Notes,
-                                Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram}) {
+    for (const Screen screen :
+         {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
+          Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
+          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {

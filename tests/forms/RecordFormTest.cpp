@@ -63,6 +63,14 @@ TEST_F(RecordFormTest, ShowsTheMemberPutOnRecord)
     Choose("MnuCriteria");
     Settle();
     EXPECT_THAT(LabelText("SavePanel"), StartsWith(" Selection:   4x  14 DF-L #1   -  Status: OK"));
+    EXPECT_TRUE(Find<QAction>("MnuDataRecord").isEnabled());
+    Choose("MnuDataRecord");
+    Settle();
+    EXPECT_EQ(LabelText("Label73"), "300  = A");
+    Choose("MnuCriteria");
+    Settle();
+    Type("Span", "15");
+    EXPECT_FALSE(Find<QAction>("MnuDataRecord").isEnabled());
 }
 
 TEST_F(RecordFormTest, IsSavedAndShownAgain)
