@@ -14,8 +14,7 @@ constexpr std::string_view SteelFault =
     "the maker of this program if it occurs again.";
 constexpr std::string_view MixedGrades =
     "Error: Both So. Pine AND MEL/MSR machine grades have been selected. Return to the Custom Values form "
-    "and "
-    "select one of them.";
+    "and select one of them.";
 constexpr std::string_view PointBearing =
     "At Point Loads: Provide these minimum bearing lengths in inches or provide web stiffeners.";
 

@@ -15,13 +15,11 @@ constexpr std::string_view NotesQuestion =
     "Record?";
 constexpr std::string_view LostOnReport =
     "The current information on the Data Record was loaded from a disk file and is only text.  It will be "
-    "lost "
-    "if you go to the Report Form3.\n"
+    "lost if you go to the Report Form3.\n"
     "You may re-load this Data Record text file later if you choose to return.";
 constexpr std::string_view LostOnCriteria =
     "The current information on the Data Record was loaded from a disk file and is only text.  It will be "
-    "lost "
-    "if you go to the Criteria Form1.\n"
+    "lost if you go to the Criteria Form1.\n"
     "You may reload the Data Record text file later if you choose to return.";
 
 /// A cell of the sheet's head, with the prefix that it has on the screen.

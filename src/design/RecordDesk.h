@@ -35,8 +35,7 @@ std::string PrintFontOf(const Session& session);
 namespace PrintTexts {
 inline constexpr std::string_view ResetOrientation =
     "If you'd like to reset your default printer orientation to Landscape when printing is finished, click "
-    "on "
-    "Print Setup on the menu bar.";
+    "on Print Setup on the menu bar.";
 inline constexpr std::string_view NotPrinted =
     "The data record printing was cancelled or could not be printed because an error occurred.";
 inline constexpr std::string_view PageFault = "Error at the Print Form 2 procedure.";

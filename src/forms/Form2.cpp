@@ -24,10 +24,9 @@ constexpr std::string_view Page =
     "Composite lumber: choose the product and enter the design values that its maker publishes. Save keeps "
     "them for this product; Load brings them back.\n\n"
     "Custom wood: choose Rectangular and a family of breadths, or Round and a diameter; then enter the "
-    "values "
-    "and what the record shall call the member. Save Values keeps them under a name.\n\n"
-    "Enter Values takes the values and shows, for each breadth, the smallest depth that passes. Pick one, or "
-    "type any breadth and depth, and press Enter or OK Test. Esc leads back to the criteria.";
+    "values and what the record shall call the member. Save Values keeps them under a name.\n\n"
+    "Enter Values takes the values and shows, for each breadth, the smallest depth that passes. Pick one, "
+    "or type any breadth and depth, and press Enter or OK Test. Esc leads back to the criteria.";
 
 constexpr int SizeDigits = 12;
 

@@ -24,12 +24,10 @@ namespace {
 constexpr std::string_view Page6 =
     "DATA RECORD\n\n"
     "The page for the building file: the member, its criteria, its loads and the results of its test. Print "
-    "it, "
-    "save it as a PDF, copy it as text into another program, or save it as a record that can be shown and "
-    "printed again.\n\n"
+    "it, save it as a PDF, copy it as text into another program, or save it as a record that can be shown "
+    "and printed again.\n\n"
     "A record loaded from a file is only text; it cannot be calculated again. To change a beam later, save "
-    "its "
-    "criteria on Form 1.\n\n"
+    "its criteria on Form 1.\n\n"
     "Esc leads back to the report.";
 
 }  // namespace

@@ -19,11 +19,8 @@ using testing::IsEmpty;
 
 constexpr std::string_view WrongTagText =
     "The file you have selected does not contain a Kordavan Data Record.  Please check to see if you "
-    "selected "
-    "the appropriate file type.\n"
-    "\n"
-    "Beam Data Records have a default extension of *.DAT\n"
-    "\n"
+    "selected the appropriate file type.\n\n"
+    "Beam Data Records have a default extension of *.DAT\n\n"
     "Custom Value files have an extension of *.VAL\n"
     "Criteria files have an extension of *.CRI\n"
     "Column Data Records have an extension of *.COL";
