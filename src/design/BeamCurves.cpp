@@ -14,19 +14,6 @@ namespace {
 
 constexpr int OverhangSteps = 100;
 
-int SpanCount(const BeamNumbers& beam)
-{
-    if (!beam.IsContinuous()) {
-        return 1;
-    }
-    return beam.ThreeSpan ? 3 : 2;
-}
-
-double LengthOf(const BeamNumbers& beam)
-{
-    return SpanCount(beam) * beam.Span + beam.Overhang;
-}
-
 void AddSpread(BeamForces& forces, const SpreadForce& force)
 {
     if (force.End > force.Begin && (force.AtBegin != 0 || force.AtEnd != 0)) {
@@ -49,7 +36,7 @@ BeamForces AppliedForces(const BeamNumbers& beam)
         AddSpread(forces, {.Begin = 0, .End = L, .AtBegin = 0, .AtEnd = 2 * beam.IncreasingTotalLoad / L});
         return forces;
     }
-    AddEven(forces, 0, SpanCount(beam) * L, loads.UNIF);
+    AddEven(forces, 0, beam.SpanCount() * L, loads.UNIF);
     if (beam.IsContinuous()) {
         return forces;
     }
@@ -71,7 +58,7 @@ BeamForces AppliedForces(const BeamNumbers& beam)
 std::vector<PointForce> ContinuousReactions(const BeamNumbers& beam, double plf)
 {
     const ContinuousCoefficients coefficient = CoefficientsOf(beam);
-    const int count = SpanCount(beam);
+    const int count = beam.SpanCount();
     std::vector<PointForce> reactions;
     for (int support = 0; support <= count; ++support) {
         const bool isEnd = support == 0 || support == count;
@@ -94,7 +81,7 @@ HeldForces Hold(const BeamNumbers& beam, BeamForces forces)
         const double plf = held.Forces.Spreads.empty() ? 0 : held.Forces.Spreads.front().AtBegin;
         held.Reactions = ContinuousReactions(beam, plf);
     } else {
-        held.Reactions = BalancingReactions(held.Forces, beam.Span, LengthOf(beam));
+        held.Reactions = BalancingReactions(held.Forces, beam.Span, beam.Length());
     }
     held.Forces.Points.insert(held.Forces.Points.end(), held.Reactions.begin(), held.Reactions.end());
     return held;
@@ -103,7 +90,7 @@ HeldForces Hold(const BeamNumbers& beam, BeamForces forces)
 HeldForces HeldWeight(const BeamNumbers& beam, double plf)
 {
     BeamForces forces;
-    AddEven(forces, 0, LengthOf(beam), plf);
+    AddEven(forces, 0, beam.Length(), plf);
     return Hold(beam, std::move(forces));
 }
 
@@ -132,7 +119,7 @@ public:
           applied(Hold(theBeam, AppliedForces(theBeam))),
           weight(HeldWeight(theBeam, selfWeightPlf))
     {
-        curves.Length = LengthOf(beam);
+        curves.Length = beam.Length();
         curves.Supports = applied.Reactions;
         for (std::size_t k = 0; k < curves.Supports.size(); ++k) {
             curves.Supports[k].Load += weight.Reactions[k].Load;
@@ -161,7 +148,7 @@ public:
 private:
     void AddStations()
     {
-        for (int i = 0; i <= SpanCount(beam) * static_cast<int>(LastStation); ++i) {
+        for (int i = 0; i <= beam.SpanCount() * static_cast<int>(LastStation); ++i) {
             places.Add(i * beam.Span / LastStation);
         }
         const int overhangSteps = beam.IsOverhanging() ? OverhangSteps : 0;

@@ -86,7 +86,7 @@ void WriteHeading(PageWriter& writer, const DataSheet& sheet)
     writer.Cell(2, left);
     writer.Cell(169, right);
     writer.NextLine();
-    writer.Cell(3, left);
+    writer.Cell(3, WholeWidth);
     writer.NextLine();
     writer.Rule();
 }
@@ -147,9 +147,10 @@ void WriteChecks(PageWriter& writer, const PageOptions& options)
         writer.Page().Tints.push_back({Margin, rows, tableWidth, writer.Top() - rows});
     }
     if (options.HasDiagram) {
-        constexpr double gap = 16;
+        const double gap = options.HighDpi ? 4 : 16;
         const double left = Margin + tableWidth + gap;
-        writer.Page().Diagram = PageRect{left, first, Margin + ContentWidth - left, writer.Top() - first};
+        const double top = options.HighDpi ? first : rows;
+        writer.Page().Diagram = PageRect{left, top, Margin + ContentWidth - left, writer.Top() - top};
     }
     writer.Rule();
 }
@@ -230,7 +231,7 @@ constexpr std::array<std::array<Pair, 3>, 8> SpanRows{{
     {{{56, 67}, {54, 65}, {146, 147}}},
     {{{173, 0}, {55, 66}, {148, 149}}},
     {{{174, 0}, {39, 168}, {134, 135}}},
-    {{{0, 0}, {0, 0}, {136, 137}}},
+    {{{138, 139}, {0, 0}, {136, 137}}},
 }};
 
 void WriteSpans(PageWriter& writer)

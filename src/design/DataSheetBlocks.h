@@ -5,6 +5,9 @@
 
 namespace kordavan {
 
+/// True of a sawn member under the incised option; glulams, composite lumber and steel are not incised.
+bool IsIncised(const Session& session);
+
 /// The blocks of the Data Record, each filled by itself.
 void FillHeading(const Session& session, CalendarDay today, DataSheet& sheet);
 void FillMemberLines(const Session& session, DataSheet& sheet);

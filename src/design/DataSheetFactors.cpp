@@ -40,12 +40,10 @@ void FillSteelValues(const Session& session, DataSheet& sheet)
 
 std::string ServiceCaption(const Session& session)
 {
-    const BeamNumbers& beam = session.Numbers;
-    const bool isGlulam = session.Member.Candidate.BreadthKey == BreadthKey::Glulam;
-    if (!beam.Incised || isGlulam) {
+    if (!IsIncised(session)) {
         return "Cm Wet Use";
     }
-    return beam.Wet ? "Cm Wet+Ci Incised" : "Ci Incised";
+    return session.Numbers.Wet ? "Cm Wet+Ci Incised" : "Ci Incised";
 }
 
 std::string DurationText(float factor)

@@ -32,12 +32,6 @@ std::string SpacingOnCenter(RepetitiveSpacing spacing)
     return {};
 }
 
-bool IsIncised(const Session& session)
-{
-    const BreadthKey key = session.Member.Candidate.BreadthKey;
-    return session.Numbers.Incised && key != BreadthKey::Glulam && key != BreadthKey::Composite;
-}
-
 std::string WoodLine(const Session& session)
 {
     const MemberCandidate& member = session.Member.Candidate;
@@ -57,7 +51,7 @@ std::string SteelLine(const Session& session)
     const std::string_view grade = SteelGradeText(criteria);
     line += ", ";
     line += grade.substr(grade.find_first_not_of(' '));
-    return line;
+    return line + SpacingOnCenter(SpacingInForce(session.Problem));
 }
 
 /// The edition stands behind a comma only where something is before it.
@@ -83,14 +77,14 @@ std::string AttributeLine(const Session& session)
         }
     };
     add(beam.IsContinuous(), ", Equal Multi-Span");
-    add(beam.Rep && !beam.IsSteel(), ", Repetitive Use");
-    add(beam.Wet && !beam.IsSteel(), ", Wet Use");
-    add(IsIncised(session) && !beam.IsSteel(), ", Incised");
+    add(beam.Rep, ", Repetitive Use");
+    add(beam.Wet, ", Wet Use");
+    add(IsIncised(session), ", Incised");
     add(session.Member.Result.NoSplits, ", No Splits");
     add(isCustom && custom.MELCheckbox, ", MEL Lumber");
     add(isCustom && custom.MSRCheckbox, ", MSR Lumber");
     if (!beam.IsSteel()) {
-        AddEdition(EditionInForce(session.Nds), line);
+        AddEdition(beam.Nds, line);
     }
     add(beam.Support == SupportCondition::HipValley, ", Increasing Load");
     add(beam.IsOverhanging(), ", Overhang");
@@ -102,6 +96,13 @@ std::string AttributeLine(const Session& session)
 }
 
 }  // namespace
+
+bool IsIncised(const Session& session)
+{
+    const BreadthKey key = session.Member.Candidate.BreadthKey;
+    return session.Numbers.Incised && !session.Numbers.IsSteel() && key != BreadthKey::Glulam &&
+           key != BreadthKey::Composite;
+}
 
 void FillHeading(const Session& session, CalendarDay today, DataSheet& sheet)
 {

@@ -18,9 +18,11 @@ std::string Lettered(char letter, double load, bool isOnOverhang)
     return isOnOverhang ? text + "  (OH)" : text;
 }
 
+/// A start at the support may be held as a distance too small to matter.
 std::string PlaceText(double feet)
 {
-    return feet == 0 ? "0" : FormatNumber(feet, Place);
+    constexpr double atSupport = 0.0001;
+    return Single(feet) <= Single(atSupport) ? "0" : FormatNumber(feet, Place);
 }
 
 void FillUniform(const Session& session, DataSheet& sheet)

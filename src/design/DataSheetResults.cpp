@@ -5,6 +5,7 @@
 
 #include "core/NumberText.h"
 #include "design/DataSheetBlocks.h"
+#include "design/DataSheetCaptions.h"
 #include "design/TestReport.h"
 #include "materials/SteelShapes.h"
 
@@ -12,7 +13,7 @@ namespace kordavan {
 
 namespace {
 
-constexpr float LeastShown = 0.01F;  // in.
+constexpr double LeastShown = 0.01;  // in.
 
 std::string StatusText(std::string_view status)
 {
@@ -20,11 +21,10 @@ std::string StatusText(std::string_view status)
 }
 
 /// A deflection too small for its format says so.
-std::string SmallOr(float deflection, std::string_view format, std::string_view unit = "")
+std::string SmallOr(double deflection, std::string_view format)
 {
-    const float size = std::abs(deflection);
-    const std::string number = size > 0 && size < LeastShown ? "<0.01" : FormatNumber(size, format);
-    return number + std::string(unit);
+    const double size = std::abs(deflection);
+    return size > 0 && size < LeastShown ? "<0.01" : FormatNumber(Single(deflection), format);
 }
 
 /// The cells of a check by their labels.
@@ -55,7 +55,7 @@ void FillOverhangChecks(const MemberTestResult& result, const TestReport& report
     sheet[156] = "OH TL Defl";
     FillCheck({158, 157, 159, 160},
               {FormatNumber(result.OverhangDeflectionAllowed, "0.#0"),
-               SmallOr(result.OverhangDeflection, "0.#0"), result.OHDeflStatus, report.OHDeflPercent},
+               SmallOr(std::abs(result.OverhangDeflection), "0.#0"), result.OHDeflStatus, report.OHDeflPercent},
               sheet);
     if (!result.OHLDeflStatus.empty()) {
         sheet[161] = "OH LL Defl";
@@ -86,18 +86,10 @@ std::string PoundText(double force, std::string_view format)
     return FormatNumber(Single(force), format) + " #";
 }
 
-double SpanCount(const BeamNumbers& beam)
-{
-    if (!beam.IsContinuous()) {
-        return 1;
-    }
-    return beam.ThreeSpan ? 3 : 2;
-}
-
 std::string SpanCaption(const BeamNumbers& beam)
 {
     if (!beam.IsContinuous()) {
-        return "Beam Span";
+        return std::string(BeamSpanCaption);
     }
     return beam.ThreeSpan ? "3 Spans, each at" : "2 Spans, each at";
 }
@@ -113,7 +105,7 @@ void FillLengths(const Session& session, DataSheet& sheet)
     }
     if (beam.IsOverhanging() || beam.IsContinuous()) {
         sheet[140] = "Total Beam Length";
-        sheet[141] = FormatNumber(SpanCount(beam) * beam.Span + beam.Overhang, "####.0#") + " ft";
+        sheet[141] = FormatNumber(beam.Length(), "####.0#") + " ft";
     }
 }
 
@@ -121,13 +113,11 @@ void FillWeight(const Session& session, DataSheet& sheet)
 {
     const AnalysisResult& analysis = session.Analysis;
     sheet[143] = session.Numbers.NoWeight ? "0" : FormatNumber(analysis.SelfWeightPlf, "#0.0#");
-    sheet[56] = "Bm Wt Included ";
-    sheet[67] = PoundText(SpanCount(session.Numbers) * analysis.SelfWeightTotal, "###0");
+    sheet[67] = FormatNumber(Single(static_cast<double>(session.Numbers.SpanCount()) * analysis.SelfWeightTotal), "###0");
 }
 
 void FillReactions(const AnalysisResult& analysis, DataSheet& sheet)
 {
-    sheet[52] = "Reaction 1 TL";
     sheet[62] = PoundText(analysis.R1Total, "###0");
     sheet[144] = "Reaction 2 TL";
     sheet[63] = PoundText(analysis.R2Total, "####");
@@ -158,9 +148,8 @@ void FillChecks(const Session& session, DataSheet& sheet)
                FormatNumber(std::abs(result.TotalDeflection), "0.00"), result.DeflStatus, report.DeflPercent},
               sheet);
     if (!result.LDeflStatus.empty()) {
-        sheet[110] = "LL Defl";
         FillCheck({109, 106, 114, 155},
-                  {FormatNumber(result.LiveDeflectionAllowed, "0.00"), SmallOr(result.LiveDeflection, "0.00"),
+                  {FormatNumber(result.LiveDeflectionAllowed, "0.00"), SmallOr(std::abs(result.LiveDeflection), "0.00"),
                    result.LDeflStatus, report.LDeflPercent},
                   sheet);
     } else {
@@ -179,9 +168,7 @@ void FillSpansAndReactions(const Session& session, DataSheet& sheet)
     FillWeight(session, sheet);
     FillReactions(analysis, sheet);
     const float moment = std::max(std::abs(analysis.MaxMomentFtLb), std::abs(analysis.OverhangMomentTotal));
-    sheet[54] = "Max Moment";
     sheet[65] = FormatNumber(moment, "####");
-    sheet[55] = "Maximum V";
     sheet[66] = PoundText(analysis.ShearMax, "####");
     sheet[168] = beam.ReduceShear && !beam.IsSteel() ? PoundText(analysis.ShearReduced, "####") : "N/A ";
 }
@@ -190,9 +177,7 @@ void FillDeflections(const Session& session, DataSheet& sheet)
 {
     const AnalysisResult& analysis = session.Analysis;
     const MemberTestResult& result = session.Member.Result;
-    sheet[57] = "TL Max Defl";
     sheet[68] = "L / " + session.Problem.MaxDefl;
-    sheet[58] = "TL Actual Defl";
     sheet[69] = RatioText(analysis.TotalDeflRatio, analysis.TotalDeflIn);
     if (!result.LDeflStatus.empty()) {
         sheet[43] = "LL Max Defl";
@@ -210,13 +195,12 @@ void FillDeflections(const Session& session, DataSheet& sheet)
             RatioText(analysis.TipLiveDeflRatio, analysis.TipLiveDeflIn, result.OHLDeflStatus == StatusFail);
     }
     sheet[134] = "(" + FormatNumber(result.CreepFactor, "0.0") + ") DL Defl=";
-    sheet[135] = SmallOr(result.DeadDeflection, "#0.00", " in.");
+    sheet[135] = SmallOr(result.DeadDeflection, "#0.00") + " in.";
     if (session.Member.Candidate.BreadthKey == BreadthKey::Glulam && !session.Numbers.IsSteel()) {
         constexpr double camberFactor = 1.5;
         sheet[136] = "Recom Camber=";
-        sheet[137] = std::abs(result.DeadDeflection) < LeastShown && result.DeadDeflection != 0
-                         ? "<0.01 in."
-                         : FormatNumber(Single(camberFactor * result.DeadDeflection), "0.#0") + " in";
+        const std::string camber = SmallOr(camberFactor * result.DeadDeflection, "0.#0");
+        sheet[137] = camber + (camber.front() == '<' ? " in." : " in");
     }
 }
 
@@ -231,12 +215,12 @@ void FillBearing(const Session& session, DataSheet& sheet)
     if (session.Numbers.IsSteel()) {
         const SteelBearing& bearing = session.Steel.Bearing;
         const bool onWood = IsPlate(session.SteelPicks.Criteria.Family);
-        fill(onWood ? "Wood Bearing Area" : "Min Bearing Length", bearing.R1, bearing.R2,
+        fill(onWood ? "Wood Bearing Area" : BearingLengthCaption, bearing.R1, bearing.R2,
              onWood ? area : std::string_view(" in."));
         return;
     }
     const double FcPerp = session.Member.Adjusted.FcPerpAdj;
-    fill("Min Bearing Area", session.Analysis.R1Total / FcPerp, session.Analysis.R2Total / FcPerp, area);
+    fill(BearingAreaCaption, session.Analysis.R1Total / FcPerp, session.Analysis.R2Total / FcPerp, area);
 }
 
 }  // namespace kordavan

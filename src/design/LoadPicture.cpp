@@ -20,7 +20,7 @@ public:
     PictureReader(const BeamNumbers& theBeam, const RoofLoad& roofLoad) : beam(theBeam), roof(roofLoad)
     {
         picture.Support = beam.Support;
-        picture.SpanCount = beam.IsContinuous() ? (beam.ThreeSpan ? 3 : 2) : 1;
+        picture.SpanCount = beam.SpanCount();
         picture.Span = beam.Span;
         picture.Overhang = beam.Overhang;
     }

@@ -16,11 +16,13 @@ constexpr std::string_view NotesQuestion =
 constexpr std::string_view LostOnReport =
     "The current information on the Data Record was loaded from a disk file and is only text.  It will be "
     "lost if you go to the Report Form3.\n"
-    "You may re-load this Data Record text file later if you choose to return.";
+    "You may re-load this Data Record text file later if you choose to return.\n\n"
+    "Do you wish to leave it?";
 constexpr std::string_view LostOnCriteria =
     "The current information on the Data Record was loaded from a disk file and is only text.  It will be "
     "lost if you go to the Criteria Form1.\n"
-    "You may reload the Data Record text file later if you choose to return.";
+    "You may reload the Data Record text file later if you choose to return.\n\n"
+    "Do you wish to leave it?";
 
 /// A cell of the sheet's head, with the prefix that it has on the screen.
 struct HeadCell {
@@ -46,20 +48,22 @@ void HeadSheet(const RecordHeading& heading, DataSheet& sheet)
     sheet.Label133Missing = heading.Heading2;
 }
 
-/// The heading of a sheet that stands, its prefixes taken off.
-RecordHeading HeadingOf(const DataSheet& sheet)
+std::string WithoutPrefix(std::string_view text, std::string_view prefix)
 {
-    RecordHeading heading;
-    for (const HeadCell& cell : HeadCells) {
-        std::string_view text = sheet[cell.Label];
-        if (text.starts_with(cell.Prefix)) {
-            text.remove_prefix(cell.Prefix.size());
-        }
-        heading.*cell.Text = text;
-    }
-    heading.Heading1 = sheet[132];
-    heading.Heading2 = sheet.Label133Missing;
-    return heading;
+    return std::string(text.starts_with(prefix) ? text.substr(prefix.size()) : text);
+}
+
+/// The heading of a sheet as it was loaded: the record holds description and beam identification in the other
+/// order than the sheet has them.
+RecordHeading HeadingOfLoaded(const DataSheet& sheet)
+{
+    return {.Project = sheet[1],
+            .Description = sheet[2],
+            .BeamId = sheet[3],
+            .Heading1 = sheet[132],
+            .Heading2 = sheet.Label133Missing,
+            .Date = WithoutPrefix(sheet[4], "Date: "),
+            .Initials = WithoutPrefix(sheet[169], "Prepared by: ")};
 }
 
 Outcome LeaveLoadedRecord(Session& session, std::string_view warning, UserPort& user)
@@ -70,7 +74,11 @@ Outcome LeaveLoadedRecord(Session& session, std::string_view warning, UserPort& 
     if (!user.Ask(RiskyQuestion(warning))) {
         return Outcome::Refused;
     }
-    session.Record = {};
+    const bool isOfSelection = session.Record.IsOfSelection && session.Record.CanBeRefilled;
+    session.Record = {.Sheet = {},
+                      .Heading = {},
+                      .IsOfSelection = isOfSelection,
+                      .CanBeRefilled = session.Record.CanBeRefilled};
     return Outcome::Done;
 }
 
@@ -79,13 +87,27 @@ Outcome LeaveLoadedRecord(Session& session, std::string_view warning, UserPort& 
 void ShowRecord(Session& session, CalendarDay today, UserPort& user)
 {
     RecordOnShow& record = session.Record;
-    if (record.FromDisk) {
-        return;
+    if (record.CanBeRefilled && !record.FromDisk) {
+        record.Sheet = FillDataRecord(session, today, user);
+        if (record.HeaderChanged) {
+            HeadSheet(record.Heading, record.Sheet);
+        }
     }
-    record.Sheet = FillDataRecord(session, today, user);
-    if (record.HeaderChanged) {
-        HeadSheet(record.Heading, record.Sheet);
-    }
+    BringNotes(session);
+}
+
+void BringNotes(Session& session)
+{
+    session.Record.Sheet.ReportNotes = session.NoteClipboard;
+}
+
+void TakeLoadedRecord(Session& session, const DataSheet& sheet)
+{
+    RecordOnShow& record = session.Record;
+    record.Sheet = sheet;
+    record.FromDisk = true;
+    record.HeaderChanged = false;
+    session.NoteClipboard = sheet.ReportNotes;
 }
 
 void PrepareHeading(Session& session, CalendarDay today)
@@ -94,14 +116,13 @@ void PrepareHeading(Session& session, CalendarDay today)
     if (record.HeaderChanged) {
         return;
     }
-    const std::string date = record.Heading.Date;
-    record.Heading = record.FromDisk ? HeadingOf(record.Sheet)
+    record.Heading = record.FromDisk ? HeadingOfLoaded(record.Sheet)
                                      : RecordHeading{.Project = session.Problem.Proj,
                                                      .Description = session.Problem.Descrip,
                                                      .BeamId = session.Problem.ID,
                                                      .Heading1 = session.Header.Heading1,
                                                      .Heading2 = session.Header.Heading2,
-                                                     .Date = date,
+                                                     .Date = ShortDate(today),
                                                      .Initials = session.Header.Initialbox};
     if (record.Heading.Date.empty()) {
         record.Heading.Date = ShortDate(today);
@@ -116,16 +137,28 @@ void ClearHeading(Session& session)
 void TakeHeading(Session& session, CalendarDay today)
 {
     RecordOnShow& record = session.Record;
+    record.Sheet = HeadedSheet(session, today);
     if (record.Heading.Date.empty()) {
         record.Heading.Date = ShortDate(today);
     }
-    HeadSheet(record.Heading, record.Sheet);
     record.HeaderChanged = true;
+}
+
+DataSheet HeadedSheet(const Session& session, CalendarDay today)
+{
+    RecordHeading heading = session.Record.Heading;
+    if (heading.Date.empty()) {
+        heading.Date = ShortDate(today);
+    }
+    DataSheet sheet = session.Record.Sheet;
+    HeadSheet(heading, sheet);
+    sheet.ReportNotes = session.NoteClipboard;
+    return sheet;
 }
 
 bool AskToPrintNotes(const Session& session, UserPort& user)
 {
-    const ReportNoteLines& notes = session.Record.Sheet.ReportNotes;
+    const ReportNoteLines& notes = session.NoteClipboard;
     const bool hasNotes =
         std::any_of(notes.begin(), notes.end(), [](const std::string& note) { return !note.empty(); });
     return hasNotes && user.Ask(Question(NotesQuestion));

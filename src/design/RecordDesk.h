@@ -7,9 +7,15 @@
 
 namespace kordavan {
 
-/// Shows the Data Record of the member tested last; one that was loaded from a file stays, and a heading that
-/// was entered for printing goes on.
+/// Fills the Data Record of the selection again, with the heading that was entered for printing. One that was
+/// loaded from a file stays, and so does that of a selection after which another member was tested.
 void ShowRecord(Session& session, CalendarDay today, UserPort& user);
+
+/// Puts the notes of the note clipboard on the sheet.
+void BringNotes(Session& session);
+
+/// Shows a record that was loaded from a file, and its notes.
+void TakeLoadedRecord(Session& session, const DataSheet& sheet);
 
 /// Fills the heading to be printed: of the criteria and the standing header, or of the loaded record itself.
 /// A date already entered stays.
@@ -18,10 +24,13 @@ void PrepareHeading(Session& session, CalendarDay today);
 /// Empties the heading.
 void ClearHeading(Session& session);
 
-/// Heads the sheet by what the heading holds; an empty date is today's.
+/// The sheet under the heading as it is entered, with the notes; an empty date is today's.
+DataSheet HeadedSheet(const Session& session, CalendarDay today);
+
+/// Heads the sheet on show by what is entered.
 void TakeHeading(Session& session, CalendarDay today);
 
-/// Asks whether the notes are to be printed, where there are any. A No leaves them out of this print alone.
+/// Asks whether the notes of the note clipboard are to be printed, where there are any. A No leaves them out of this print alone.
 bool AskToPrintNotes(const Session& session, UserPort& user);
 
 /// Warns that a loaded record is lost on the way to the report, or to the criteria. Refused when the person

@@ -55,6 +55,7 @@ void SelectMember(Session& session, CalendarDay today)
                         .MemberStatus = result.Overall == StatusFail ? "Fails" : std::string(result.Overall),
                         .RecordDate = ShortDate(today)};
     session.Record.IsOfSelection = true;
+    session.Record.CanBeRefilled = true;
 }
 
 }  // namespace kordavan

@@ -212,6 +212,7 @@ void StoreTest(const MemberCandidate& member, const SizeTest& size, const Deflec
     static_cast<CandidateLoadResult&>(session.Analysis) = size.Loads;
     static_cast<ShearResult&>(session.Analysis) = size.Shear;
     static_cast<DeflectionResult&>(session.Analysis) = deflection;
+    session.Record.CanBeRefilled = false;
     session.Member.Candidate = member;
     session.Member.Values = size.Values;
     session.Member.Factors = size.Factors;

@@ -40,7 +40,12 @@ QString FeetText(double feet)
     return Text((feet < MostShown ? FormatNumber(feet, "#0.00") : NumberText(feet)) + " ft");
 }
 
-QString LoadCaption(const PictureLoad& load)
+bool Rises(const PictureLoad& load)
+{
+    return load.Kind == PictureLoadKind::Rising || load.Kind == PictureLoadKind::RisingLine;
+}
+
+QString LoadCaption(const PictureLoad& load, LoadCaptions captions)
 {
     std::string caption(1, load.Letter);
     switch (load.Kind) {
@@ -56,6 +61,9 @@ QString LoadCaption(const PictureLoad& load)
         case PictureLoadKind::Uniform:
         case PictureLoadKind::Point:
         case PictureLoadKind::Partial:
+            if (captions == LoadCaptions::Letters) {
+                return Text(caption);
+            }
             break;
     }
     return Text(caption + " " + NumberText(load.Total));
@@ -73,10 +81,12 @@ SketchColors::SketchColors(const QPalette& palette)
 {
 }
 
-BeamPainter::BeamPainter(QPainter& thePainter, const QRectF& wholeArea, const SketchColors& sketchColors)
+BeamPainter::BeamPainter(QPainter& thePainter, const QRectF& wholeArea, const SketchColors& sketchColors,
+                         LoadCaptions loadCaptions)
     : painter(thePainter),
       area(wholeArea),
       colors(sketchColors),
+      captions(loadCaptions),
       lineHeight(thePainter.fontMetrics().height())
 {
 }
@@ -103,6 +113,12 @@ std::vector<DrawnLoad> BeamPainter::Draw(const LoadPicture& picture)
             occupied.push_back(ShaftOf(load));
         }
         rowOf.push_back(takesRow ? RowFor(Across(load.Begin), Across(load.End)) : 0);
+    }
+    for (std::size_t k = 0; k < picture.Loads.size(); ++k) {
+        const PictureLoad& load = picture.Loads[k];
+        if (hasSpan && load.HasPlace && load.Kind != PictureLoadKind::Point) {
+            occupied.push_back(BarOf(load, rowOf[k]));
+        }
     }
     for (std::size_t k = 0; k < picture.Loads.size(); ++k) {
         const PictureLoad& load = picture.Loads[k];
@@ -197,18 +213,23 @@ void BeamPainter::DrawDimensions(const LoadPicture& picture)
     }
 }
 
-/// A bar, or the triangle of a load that rises from R1 to R2, the live part hatched.
-void BeamPainter::DrawDistributed(const PictureLoad& load, int row)
+QRectF BeamPainter::BarOf(const PictureLoad& load, int row) const
 {
     constexpr double gap = 3;
-    const bool rises = load.Kind == PictureLoadKind::Rising || load.Kind == PictureLoadKind::RisingLine;
-    const bool isRoof = rises || load.Kind == PictureLoadKind::Beside;
+    const bool isRoof = Rises(load) || load.Kind == PictureLoadKind::Beside;
     const double share = isRoof ? 1 : load.Total / largestDistributed;  // psf and plf do not compare
     const double room = std::max(RowHeight() - lineHeight, gap);
     const double height = room * (LeastBarShare + (1 - LeastBarShare) * share);
-    const QRectF bar(Across(load.Begin), beamY - row * RowHeight() - gap - height,
-                     (load.End - load.Begin) * perFoot, height);
-    const double live = std::min(load.Live / load.Total, 1.0) * height;
+    return {Across(load.Begin), beamY - row * RowHeight() - gap - height, (load.End - load.Begin) * perFoot,
+            height};
+}
+
+/// A bar, or the triangle of a load that rises from R1 to R2, the live part hatched.
+void BeamPainter::DrawDistributed(const PictureLoad& load, int row)
+{
+    const bool rises = Rises(load);
+    const QRectF bar = BarOf(load, row);
+    const double live = std::min(load.Live / load.Total, 1.0) * bar.height();
     const auto shape = [&](double top) {
         const QPointF corner(rises ? bar.right() : bar.left(), top);
         return QPolygonF{bar.bottomLeft(), corner, {bar.right(), top}, bar.bottomRight()};
@@ -288,39 +309,49 @@ QRectF BeamPainter::ShaftOf(const PictureLoad& load) const
 void BeamPainter::DrawUnplaced(const PictureLoad& load)
 {
     const double y = area.top() + lineHeight * unplacedCount++;
-    const QString caption = QStringLiteral("%1 where?").arg(LoadCaption(load));
+    const QString caption = QStringLiteral("%1 where?").arg(LoadCaption(load, captions));
     const QRectF where(area.left() + 4, y, painter.fontMetrics().horizontalAdvance(caption) + 4, lineHeight);
     painter.setPen(colors.Faint);
     painter.drawText(where, Qt::AlignLeft | Qt::AlignVCenter, caption);
     Remember(where, load);
 }
 
-/// Captions give way to arrows and to those already drawn: sideways, or by a line upwards, to the nearest
-/// free place.
 void BeamPainter::DrawCaption(const PictureLoad& load, QPointF at)
 {
-    const QString caption = LoadCaption(load);
+    const QString caption = LoadCaption(load, captions);
     const double width = painter.fontMetrics().horizontalAdvance(caption) + 6;
-    const QRectF middle(at.x() - width / 2, at.y() - lineHeight, width, lineHeight);
-    const auto isFree = [&](const QRectF& where) {
-        const bool isInside =
-            where.top() >= area.top() && where.left() >= area.left() && where.right() <= area.right();
-        return isInside && std::none_of(occupied.begin(), occupied.end(),
-                                        [&where](const QRectF& other) { return other.intersects(where); });
-    };
-    QRectF where = middle;
-    for (const QPointF& shift :
-         {QPointF(0, 0), QPointF(width / 2, 0), QPointF(-width / 2, 0), QPointF(0, -lineHeight),
-          QPointF(width, 0), QPointF(-width, 0), QPointF(1.5 * width, 0), QPointF(-1.5 * width, 0),
-          QPointF(2 * width, 0), QPointF(-2 * width, 0), QPointF(0, -2 * lineHeight)}) {
-        if (isFree(middle.translated(shift))) {
-            where = middle.translated(shift);
-            break;
-        }
-    }
+    const QRectF where =
+        FreePlace({at.x() - width / 2, at.y() - lineHeight, width, lineHeight});
     occupied.push_back(where);
     painter.setPen(load.OnOverhang ? ColorOf(load) : colors.Text);
     painter.drawText(where, Qt::AlignCenter, caption);
+}
+
+bool BeamPainter::IsFree(const QRectF& where) const
+{
+    const bool isInside =
+        where.top() >= area.top() && where.left() >= area.left() && where.right() <= area.right();
+    return isInside && std::none_of(occupied.begin(), occupied.end(),
+                                    [&where](const QRectF& other) { return other.intersects(where); });
+}
+
+/// Captions give way to arrows, bars and those already drawn: sideways, or by lines upwards, to the nearest
+/// free place.
+QRectF BeamPainter::FreePlace(const QRectF& wanted) const
+{
+    constexpr int mostLines = 4;
+    constexpr int mostSteps = 4;  // of half a caption
+    for (int up = 0; up <= mostLines; ++up) {
+        for (int step = 0; step <= mostSteps; ++step) {
+            for (const double side : {0.5, -0.5}) {
+                const QRectF place = wanted.translated(side * step * wanted.width(), -up * lineHeight);
+                if (IsFree(place)) {
+                    return place;
+                }
+            }
+        }
+    }
+    return wanted;
 }
 
 QColor BeamPainter::ColorOf(const PictureLoad& load) const

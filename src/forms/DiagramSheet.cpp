@@ -7,6 +7,7 @@
 #include <QSvgGenerator>
 
 #include "forms/PlotPainter.h"
+#include "forms/StatusColor.h"
 
 namespace kordavan {
 
@@ -16,17 +17,9 @@ constexpr int Width = 900;  // in units of the screen
 constexpr int HeadingHeight = 34;
 constexpr int PartHeight = 190;
 constexpr int Height = HeadingHeight + static_cast<int>(DiagramParts.size()) * PartHeight;
+constexpr int TextHeight = 13;  // whatever the desk's own type is
 constexpr int Sharpness = 2;          // pixels to a unit
 constexpr int ScreenResolution = 96;  // units to an inch
-
-QPalette PaperPalette()
-{
-    QPalette palette(QColor(0xF0, 0xF0, 0xF0));
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::WindowText, Qt::black);
-    palette.setColor(QPalette::Highlight, QColor(0x1F, 0x5F, 0xA8));
-    return palette;
-}
 
 }  // namespace
 
@@ -70,7 +63,9 @@ void DiagramSheet::Paint(QPaintDevice& device) const
 {
     const QPalette palette = PaperPalette();
     QPainter painter(&device);
-    painter.setFont(QApplication::font());
+    QFont font = QApplication::font();
+    font.setPixelSize(TextHeight);
+    painter.setFont(font);
     painter.fillRect(QRect(0, 0, Width, Height), palette.base());
     painter.setPen(palette.color(QPalette::WindowText));
     painter.drawText(QRect(0, 0, Width, HeadingHeight), Qt::AlignCenter, heading);

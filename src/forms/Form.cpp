@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -23,7 +24,6 @@ Form::Form(Walk& theWalk, std::string_view name)
       foot(new QHBoxLayout(footArea))
 {
     setObjectName(Text(name));
-    setAttribute(Qt::WA_KeyboardFocusChange);  // the focus is seen before the first Tab too
     auto* const contents = new QWidget;
     contents->setLayout(body);
     scroll->setWidget(contents);
@@ -168,6 +168,13 @@ void Form::CloseAsked()
     currentWalk.AskToExit();
 }
 
+/// The focus is seen before the first Tab too.
+void Form::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 void Form::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
@@ -184,6 +191,12 @@ void Form::keyPressEvent(QKeyEvent* event)
                 return;
             }
             break;
+        case Qt::Key_PageUp:
+            scroll->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepSub);
+            return;
+        case Qt::Key_PageDown:
+            scroll->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            return;
         default:
             break;
     }

@@ -31,6 +31,9 @@ public:
     /// Called by the walk each time the form comes to the front.
     virtual void Activate() {}
 
+    /// Called by the walk while the notes beside the form are typed.
+    virtual void ShowNotes() {}
+
     /// Puts the caret where a message points to, and scrolls there.
     void FocusOn(std::string_view control);
 
@@ -80,6 +83,7 @@ protected:
 
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void PressDefault();

@@ -47,6 +47,9 @@ Form6::Form6(Walk& theWalk) : Form(theWalk, "Form6"), sheet(new RecordSheet)
 void Form6::Activate()
 {
     ShowRecord(TheSession(), TheWalk().Desktop().Today(), User());
+    const bool isFromDisk = TheSession().Record.FromDisk;
+    back->setEnabled(!isFromDisk);
+    backInBar->setEnabled(!isFromDisk);
     ShowSheet();
     print->setFocus(Qt::OtherFocusReason);
 }
@@ -97,12 +100,15 @@ void Form6::BuildFileMenu()
     AddExitCommand(file);
 }
 
+void Form6::ShowNotes()
+{
+    BringNotes(TheSession());
+    ShowSheet();
+}
+
 void Form6::ShowSheet()
 {
-    const bool isFromDisk = TheSession().Record.FromDisk;
     sheet->Show(Page(), Loads(), font().family());
-    back->setEnabled(!isFromDisk);
-    backInBar->setEnabled(!isFromDisk);
 }
 
 RecordPage Form6::Page()
@@ -127,6 +133,7 @@ void Form6::GoToPrint()
 void Form6::OnNewBeam()
 {
     if (OfferNewBeamAfterReport(TheSession(), User()) == Outcome::Done) {
+        TheWalk().RefreshBeside(Screen::Notes);
         TheWalk().Go(Screen::Criteria);
         TheWalk().Front()->FocusOn("Proj");
     }
@@ -135,10 +142,10 @@ void Form6::OnNewBeam()
 void Form6::OpenRecord()
 {
     const std::optional<std::string> path = TheWalk().Desktop().AskOpenFile(OpenDataRecordDialog);
-    if (path && OpenDataRecord(*path, TheSession().Record.Sheet, User()) == Outcome::Done) {
-        TheSession().Record.FromDisk = true;
-        TheSession().Record.HeaderChanged = false;
-        TheSession().NoteClipboard = TheSession().Record.Sheet.ReportNotes;
+    DataSheet loaded = TheSession().Record.Sheet;
+    if (path && OpenDataRecord(*path, loaded, User()) == Outcome::Done) {
+        TakeLoadedRecord(TheSession(), loaded);
+        TheWalk().RefreshBeside(Screen::Notes);
         ShowSheet();
     }
 }

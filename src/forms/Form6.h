@@ -21,6 +21,7 @@ public:
 
     /// Fills the sheet anew, unless it was loaded from a file.
     void Activate() override;
+    void ShowNotes() override;
 
 protected:
     QAbstractButton* DefaultCommand() override;

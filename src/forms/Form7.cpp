@@ -36,6 +36,19 @@ constexpr int MostText = 60;
 constexpr int MostDate = 12;
 constexpr int MostInitials = 8;
 
+Message PrintEndMessage(PrintEnd end)
+{
+    switch (end) {
+        case PrintEnd::Printed:
+            return Alert(PrintTexts::ResetOrientation);
+        case PrintEnd::NotDrawn:
+            return Marked(Alert(PrintTexts::PageFault), MessageIcon::Warning);
+        case PrintEnd::Failed:
+            break;
+    }
+    return Marked(Alert(PrintTexts::NotPrinted), MessageIcon::Warning);
+}
+
 }  // namespace
 
 Form7::Form7(Walk& walk) : Form(walk, "Form7"), preview(new PagePreview)
@@ -52,12 +65,16 @@ Form7::Form7(Walk& walk) : Form(walk, "Form7"), preview(new PagePreview)
     Body().addLayout(line, 1);
     BuildFoot();
     BuildMenus();
-    connect(&boxes, &Bindings::Edited, this, &Form7::Refresh);
+    connect(&boxes, &Bindings::Edited, this, [this] {
+        isEdited = true;
+        Refresh();
+    });
 }
 
 void Form7::Activate()
 {
     PrepareHeading(TheSession(), TheWalk().Desktop().Today());
+    isEdited = false;
     Refresh();
     FocusOn("Heading1");
 }
@@ -69,6 +86,9 @@ QAbstractButton* Form7::DefaultCommand()
 
 void Form7::GoBack()
 {
+    if (isEdited) {
+        TakeHeading(TheSession(), TheWalk().Desktop().Today());
+    }
     TheWalk().Go(Screen::Record);
 }
 
@@ -143,16 +163,15 @@ void Form7::Refresh()
 /// The sheet under the heading as it is typed; it takes it for good when it is printed or saved.
 RecordPage Form7::Page(bool hasNotes)
 {
-    Session headed = TheSession();
-    TakeHeading(headed, TheWalk().Desktop().Today());
     return LayOutDataRecord(
-        headed.Record.Sheet,
+        HeadedSheet(TheSession(), TheWalk().Desktop().Today()),
         {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = loads.has_value()});
 }
 
 void Form7::OnClear()
 {
     ClearHeading(TheSession());
+    isEdited = true;
     Refresh();
     FocusOn("Heading1");
 }
@@ -164,7 +183,7 @@ void Form7::OnPrint()
         User().Tell(Marked(Alert(NoPrinter), MessageIcon::Warning));
         return;
     }
-    const std::string usual = printers.CurrentPrinter();
+    RememberPrinter();
     const bool hasNotes = AskToPrintNotes(TheSession(), User());
     TakeHeading(TheSession(), TheWalk().Desktop().Today());
     Refresh();
@@ -175,19 +194,22 @@ void Form7::OnPrint()
         printers.Print({.Page = page, .Loads = loads, .Family = Text(PrintFontOf(TheSession()))});
     panel->setText({});
     if (TheSession().RestoreDefaultPrinter) {
-        printers.UsePrinter(usual);
+        printers.UsePrinter(*usualPrinter);
     }
-    User().Tell(end == PrintEnd::Printed ? Alert(PrintTexts::ResetOrientation)
-                                         : Marked(Alert(PrintTexts::NotPrinted), MessageIcon::Warning));
+    usualPrinter.reset();
+    User().Tell(PrintEndMessage(end));
 }
 
 void Form7::OnSave()
 {
+    const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SaveDataRecordDialog);
+    if (!path) {
+        return;
+    }
     TakeHeading(TheSession(), TheWalk().Desktop().Today());
     Refresh();
-    const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SaveDataRecordDialog);
     const RecordOnShow& record = TheSession().Record;
-    if (!path || SaveDataRecord(record.Sheet, record.Heading, *path, User()) != Outcome::Done) {
+    if (SaveDataRecord(record.Sheet, record.Heading, *path, User()) != Outcome::Done) {
         return;
     }
     if (!record.FromDisk && User().Ask(Question(PrintTexts::SaveCriteriaToo))) {
@@ -209,7 +231,21 @@ void Form7::OnPdf()
 
 void Form7::OnSetup()
 {
-    TheWalk().Desktop().Printers().AskSetup(*this);
+    PrinterPort& printers = TheWalk().Desktop().Printers();
+    if (!printers.HasPrinter()) {
+        User().Tell(Marked(Alert(NoPrinter), MessageIcon::Warning));
+        return;
+    }
+    RememberPrinter();
+    printers.AskSetup(*this);
+}
+
+/// The printer to come back to is the one from before the first setup for this page.
+void Form7::RememberPrinter()
+{
+    if (!usualPrinter) {
+        usualPrinter = TheWalk().Desktop().Printers().CurrentPrinter();
+    }
 }
 
 void Form7::OnFont()

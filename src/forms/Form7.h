@@ -24,6 +24,7 @@ public:
     explicit Form7(Walk& walk);
 
     void Activate() override;
+    void ShowNotes() override { Refresh(); }
 
     /// The loads of the record to print; none for a record of text alone.
     void SetLoads(const std::optional<LoadPicture>& newLoads) { loads = newLoads; }
@@ -44,9 +45,12 @@ private:
     void OnPdf();
     void OnSetup();
     void OnFont();
+    void RememberPrinter();
 
     Bindings boxes;
     std::optional<LoadPicture> loads;
+    std::optional<std::string> usualPrinter;  // before the person chose another for this page
+    bool isEdited = false;
     PagePreview* preview = nullptr;
     QLabel* panel = nullptr;
     QPushButton* print = nullptr;

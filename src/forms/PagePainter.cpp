@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPalette>
+#include <algorithm>
 #include <utility>
 
 #include "forms/BeamPainter.h"
@@ -36,30 +37,12 @@ QRectF InUnits(const PageRect& rect)
             rect.Height * UnitsPerPoint};
 }
 
+}  // namespace
+
 bool IsFailure(const PageText& text)
 {
     return text.Style == PageStyle::Status && text.Text.starts_with("Fail");
 }
-
-void PaintDiagram(QPainter& painter, const QRectF& room, const LoadPicture& loads, const PageInk& ink)
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Window, Qt::white);
-    palette.setColor(QPalette::Text, ink.Text);
-    palette.setColor(QPalette::WindowText, ink.Text);
-    constexpr int textPoints = 7;
-    QFont font = painter.font();
-    font.setPixelSize(textPoints);
-    painter.save();
-    painter.scale(UnitsPerPoint, UnitsPerPoint);
-    painter.setFont(font);
-    const SketchColors colors(palette);
-    BeamPainter(painter, room, colors).Draw(loads);
-    painter.restore();
-}
-
-}  // namespace
 
 QRectF SignArea(const QRectF& status)
 {
@@ -74,7 +57,8 @@ PageInk PageInk::OnPaper()
             .Caption = QColor(70, 70, 70),
             .Rule = Qt::black,
             .Tint = QColor(238, 238, 238),
-            .Fail = QColor(128, 0, 0)};
+            .Fail = QColor(128, 0, 0),
+            .Sketch = PaperPalette()};
 }
 
 PageInk PageInk::OnScreen(const QPalette& palette)
@@ -86,7 +70,8 @@ PageInk PageInk::OnScreen(const QPalette& palette)
             .Caption = caption,
             .Rule = palette.color(QPalette::Mid),
             .Tint = palette.color(QPalette::AlternateBase),
-            .Fail = FailColor(palette)};
+            .Fail = FailColor(palette),
+            .Sketch = palette};
 }
 
 double PageTextSize(PageStyle style, double textSize)
@@ -107,6 +92,18 @@ QFont PageFont(PageStyle style, double textSize, const QString& family)
     return font;
 }
 
+QFont FittedFont(const QFont& font, const QString& text, double width)
+{
+    QFont fitted = font;
+    double needed = QFontMetricsF(fitted).horizontalAdvance(text);
+    while (needed > width && fitted.pixelSize() > 1) {
+        const int scaled = static_cast<int>(fitted.pixelSize() * width / needed);
+        fitted.setPixelSize(std::clamp(scaled, 1, fitted.pixelSize() - 1));
+        needed = QFontMetricsF(fitted).horizontalAdvance(text);
+    }
+    return fitted;
+}
+
 PagePainter::PagePainter(const RecordPage& recordPage, QString fontFamily, const PageInk& pageInk)
     : page(recordPage), family(std::move(fontFamily)), ink(pageInk)
 {
@@ -114,26 +111,37 @@ PagePainter::PagePainter(const RecordPage& recordPage, QString fontFamily, const
 
 void PagePainter::Paint(QPainter& painter, const QRectF& target, const LoadPicture* loads) const
 {
-    PaintGround(painter, target, loads);
     painter.save();
-    painter.translate(target.topLeft());
-    const double scale = target.width() / (page.Width * UnitsPerPoint);
-    painter.scale(scale, scale);
+    Enter(painter, target);
+    PaintMarks(painter);
     for (const PageText& text : page.Texts) {
         if (!text.Text.empty()) {
             PaintText(painter, text);
         }
     }
+    PaintDiagram(painter, loads);
     painter.restore();
 }
 
 void PagePainter::PaintGround(QPainter& painter, const QRectF& target, const LoadPicture* loads) const
 {
     painter.save();
+    Enter(painter, target);
+    PaintMarks(painter);
+    PaintDiagram(painter, loads);
+    painter.restore();
+}
+
+void PagePainter::Enter(QPainter& painter, const QRectF& target) const
+{
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(target.topLeft());
     const double scale = target.width() / (page.Width * UnitsPerPoint);
     painter.scale(scale, scale);
+}
+
+void PagePainter::PaintMarks(QPainter& painter) const
+{
     for (const PageRect& tint : page.Tints) {
         painter.fillRect(InUnits(tint), ink.Tint);
     }
@@ -150,38 +158,42 @@ void PagePainter::PaintGround(QPainter& painter, const QRectF& target, const Loa
                       fails ? ink.Fail : ink.Text);
         }
     }
-    if (page.Diagram && loads != nullptr) {
-        const PageRect& room = *page.Diagram;
-        PaintDiagram(painter, QRectF(room.Left, room.Top, room.Width, room.Height), *loads, ink);
+}
+
+/// Loads are told by their letters, as their figures stand in the rows below.
+void PagePainter::PaintDiagram(QPainter& painter, const LoadPicture* loads) const
+{
+    if (!page.Diagram || loads == nullptr) {
+        return;
     }
+    constexpr int textPoints = 7;
+    QFont font(family);
+    font.setPixelSize(textPoints);
+    painter.save();
+    painter.scale(UnitsPerPoint, UnitsPerPoint);
+    painter.setFont(font);
+    const SketchColors colors(ink.Sketch);
+    const PageRect& room = *page.Diagram;
+    BeamPainter(painter, QRectF(room.Left, room.Top, room.Width, room.Height), colors, LoadCaptions::Letters)
+        .Draw(*loads);
     painter.restore();
 }
 
-/// A text too long for its place is drawn narrower rather than cut.
 void PagePainter::PaintText(QPainter& painter, const PageText& text) const
 {
-    const QFont font = PageFont(text.Style, page.TextSize, family);
     const QString shown = Text(text.Text);
     QRectF area = InUnits(text.Area);
-    const bool fails = IsFailure(text);
-    painter.save();
+    QFont font = PageFont(text.Style, page.TextSize, family);
+    painter.setPen(text.Style == PageStyle::Caption ? ink.Caption : ink.Text);
     if (text.Style == PageStyle::Status) {
         area.setLeft(SignArea(area).right() + SignArea(area).width() / 3);
     }
-    painter.setFont(font);
-    painter.setPen(text.Style == PageStyle::Caption ? ink.Caption : ink.Text);
-    if (fails) {
+    if (IsFailure(text)) {
+        font.setBold(true);
         painter.setPen(ink.Fail);
     }
-    const double width = QFontMetricsF(font, painter.device()).horizontalAdvance(shown);
-    if (width > area.width() && width > 0) {
-        const double squeeze = area.width() / width;
-        painter.translate(area.left(), 0);
-        painter.scale(squeeze, 1);
-        area = QRectF(0, area.top(), width, area.height());
-    }
+    painter.setFont(FittedFont(font, shown, area.width()));
     painter.drawText(area, static_cast<int>(AlignmentOf(text.Align)) | Qt::TextSingleLine, shown);
-    painter.restore();
 }
 
 }  // namespace kordavan

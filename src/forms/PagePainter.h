@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPalette>
 #include <QRectF>
 #include <QString>
 
@@ -9,7 +10,6 @@
 #include "design/RecordPage.h"
 
 class QPainter;
-class QPalette;
 
 namespace kordavan {
 
@@ -23,6 +23,7 @@ struct PageInk {
     QColor Rule;
     QColor Tint;
     QColor Fail;
+    QPalette Sketch;  // of the diagram
 
     /// Black and gray on white paper.
     static PageInk OnPaper();
@@ -34,6 +35,12 @@ double PageTextSize(PageStyle style, double textSize);
 
 /// The font of a style on a page of this size; the sizes of a page are points.
 QFont PageFont(PageStyle style, double textSize, const QString& family);
+
+/// The font made smaller until a text fits into a width, in the pixels of the font.
+QFont FittedFont(const QFont& font, const QString& text, double width);
+
+/// True of a text that says that a check fails.
+bool IsFailure(const PageText& text);
 
 /// Paints a record's page into a rectangle of any device, scaled to its width.
 class PagePainter {
@@ -47,6 +54,10 @@ public:
     void PaintGround(QPainter& painter, const QRectF& target, const LoadPicture* loads) const;
 
 private:
+    /// Sets the painter to the units of fonts on the page.
+    void Enter(QPainter& painter, const QRectF& target) const;
+    void PaintMarks(QPainter& painter) const;
+    void PaintDiagram(QPainter& painter, const LoadPicture* loads) const;
     void PaintText(QPainter& painter, const PageText& text) const;
 
     const RecordPage& page;

@@ -20,7 +20,7 @@ void PagePreview::Show(const RecordPage& newPage, const std::optional<LoadPictur
     page = newPage;
     loads = newLoads;
     family = fontFamily;
-    setAccessibleDescription(Text(PlainTextOf(page)));
+    setAccessibleDescription(Text(PlainTextOf(page) + (loads ? DescribePicture(*loads) : "")));
     update();
 }
 

@@ -18,7 +18,11 @@ struct PrintJob {
     QString Family;  // of the font
 };
 
-enum class PrintEnd { Printed, Failed };
+enum class PrintEnd {
+    Printed,
+    NotDrawn,  // the printer took the job, but not what is on the page
+    Failed     // or cancelled
+};
 
 /// What the forms need of the desk's printers.
 class PrinterPort {

@@ -1,10 +1,13 @@
 #include "forms/QtPrinters.h"
 
-#include <QFontDialog>
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QInputDialog>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QPushButton>
 
 #include "forms/Kit.h"
 #include "forms/PagePainter.h"
@@ -19,7 +22,6 @@ QPrinter& QtPrinters::Printer()
     if (!printer) {
         printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setPageSize(QPageSize(QPageSize::Letter));
-        printer->setPageOrientation(QPageLayout::Portrait);
         printer->setFullPage(true);
         printer->setDocName(QStringLiteral("Kordavan Data Record"));
     }
@@ -44,19 +46,30 @@ void QtPrinters::UsePrinter(const std::string& name)
 void QtPrinters::AskSetup(QWidget& owner)
 {
     QPrintDialog dialog(&Printer(), &owner);
+    dialog.setWindowTitle(QStringLiteral("Print Setup"));
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);  // saving as a PDF is a command of its own
+    for (auto* const buttons : dialog.findChildren<QDialogButtonBox*>()) {
+        if (QPushButton* const accept = buttons->button(QDialogButtonBox::Ok)) {
+            accept->setText(QStringLiteral("&OK"));
+        }
+    }
     dialog.exec();
 }
 
 std::optional<std::string> QtPrinters::AskFont(QWidget& owner, const std::string& current)
 {
+    const QStringList families = QFontDatabase::families();
     bool isChosen = false;
-    const QFont font = QFontDialog::getFont(&isChosen, QFont(Text(current)), &owner);
-    return isChosen ? std::optional(Text(font.family())) : std::nullopt;
+    const QString family = QInputDialog::getItem(&owner, QStringLiteral("Kordavan"), QStringLiteral("&Font"),
+                                                 families, static_cast<int>(families.indexOf(Text(current))),
+                                                 false, &isChosen);
+    return isChosen && !family.isEmpty() ? std::optional(Text(family)) : std::nullopt;
 }
 
 /// The page is scaled to the width of the paper and keeps its upper edge.
 PrintEnd QtPrinters::Print(const PrintJob& job)
 {
+    Printer().setPageOrientation(QPageLayout::Portrait);
     QPainter painter;
     if (!painter.begin(&Printer())) {
         return PrintEnd::Failed;
@@ -67,6 +80,9 @@ PrintEnd QtPrinters::Print(const PrintJob& job)
                        job.Page.Height * scale);
     PagePainter(job.Page, job.Family, PageInk::OnPaper())
         .Paint(painter, sheet, job.Loads ? &*job.Loads : nullptr);
+    if (!painter.isActive() || sheet.isEmpty()) {
+        return PrintEnd::NotDrawn;
+    }
     const bool isWhole = painter.end() && Printer().printerState() != QPrinter::Error;
     return isWhole ? PrintEnd::Printed : PrintEnd::Failed;
 }

@@ -48,6 +48,7 @@ void RecordSheet::Show(const RecordPage& newPage, const std::optional<LoadPictur
     page = newPage;
     loads = newLoads;
     family = fontFamily;
+    setAccessibleDescription(loads ? Text(DescribePicture(*loads)) : QString());
     MakeCells();
     PlaceCells();
     updateGeometry();
@@ -99,6 +100,7 @@ void RecordSheet::MakeCells()
         const bool isHead = std::find(BlockHeads.begin(), BlockHeads.end(), text.Label) != BlockHeads.end();
         label->setTextInteractionFlags(isHead ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
                                               : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
+        label->installEventFilter(this);
         label->setFocusPolicy(isHead ? Qt::StrongFocus : Qt::ClickFocus);
         label->show();
         cells.push_back({label, &text});
@@ -114,12 +116,13 @@ void RecordSheet::PlaceCells()
         QFont font = PageFont(cell.Text->Style, page.TextSize, family);
         font.setPixelSize(
             std::max(1, static_cast<int>(PageTextSize(cell.Text->Style, page.TextSize) * scale)));
-        cell.Shown->setFont(font);
+        font.setBold(font.bold() || IsFailure(*cell.Text));
         QRectF place(sheet.left() + area.Left * scale, area.Top * scale, area.Width * scale,
                      area.Height * scale);
         if (cell.Text->Style == PageStyle::Status) {
             place.setLeft(SignArea(place).right() + SignArea(place).width() / 3);
         }
+        cell.Shown->setFont(FittedFont(font, cell.Shown->text(), place.width()));
         cell.Shown->setGeometry(place.toAlignedRect());
         PaintCell(cell);
     }
@@ -128,7 +131,7 @@ void RecordSheet::PlaceCells()
 void RecordSheet::PaintCell(const Cell& cell) const
 {
     if (cell.Text->Style == PageStyle::Status) {
-        PaintStatus(*cell.Shown, cell.Text->Text.starts_with("Fail"));
+        PaintStatus(*cell.Shown, IsFailure(*cell.Text));
         return;
     }
     QPalette colors = palette();
@@ -138,11 +141,27 @@ void RecordSheet::PaintCell(const Cell& cell) const
     cell.Shown->setPalette(colors);
 }
 
+/// Labels do not show by themselves that they have the focus.
+bool RecordSheet::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+        update();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void RecordSheet::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     PagePainter(page, family, PageInk::OnScreen(palette()))
         .PaintGround(painter, Sheet(), loads ? &*loads : nullptr);
+    for (const Cell& cell : cells) {
+        if (cell.Shown->hasFocus()) {
+            constexpr double thickness = 2;
+            painter.setPen(QPen(palette().color(QPalette::Highlight), thickness));
+            painter.drawRect(cell.Shown->geometry().adjusted(-3, -1, 3, 1));
+        }
+    }
 }
 
 void RecordSheet::resizeEvent(QResizeEvent* event)

@@ -148,6 +148,13 @@ void Walk::RefreshBeside(Screen screen)
     }
 }
 
+void Walk::ShowNotes()
+{
+    if (front != nullptr) {
+        front->ShowNotes();
+    }
+}
+
 void Walk::PutAway(Screen screen)
 {
     if (Form* const form = SeenForm(screen)) {

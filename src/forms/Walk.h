@@ -85,6 +85,9 @@ public:
     /// Fills a screen that stands beside again, if it is seen.
     void RefreshBeside(Screen screen);
 
+    /// Lets the form in front show the notes as they are typed beside it.
+    void ShowNotes();
+
     /// Hides a screen that stands beside, if it is seen.
     void PutAway(Screen screen);
 
