@@ -11,11 +11,11 @@
 #include "batch/RecordAnswer.h"
 #include "batch/RequestLine.h"
 #include "core/Version.h"
-#include "design/DataRecordPage.h"
-#include "design/DataSheetFill.h"
 #include "design/LoadPicture.h"
 #include "forms/Kit.h"
 #include "forms/RecordPdf.h"
+#include "records/DataRecordPage.h"
+#include "records/DataSheetFill.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
-#include "design/DataSheetFill.h"
+#include "records/DataSheetFill.h"
 
 namespace kordavan {
 

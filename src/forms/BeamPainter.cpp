@@ -320,8 +320,7 @@ void BeamPainter::DrawCaption(const PictureLoad& load, QPointF at)
 {
     const QString caption = LoadCaption(load, captions);
     const double width = painter.fontMetrics().horizontalAdvance(caption) + 6;
-    const QRectF where =
-        FreePlace({at.x() - width / 2, at.y() - lineHeight, width, lineHeight});
+    const QRectF where = FreePlace({at.x() - width / 2, at.y() - lineHeight, width, lineHeight});
     occupied.push_back(where);
     painter.setPen(load.OnOverhang ? ColorOf(load) : colors.Text);
     painter.drawText(where, Qt::AlignCenter, caption);

@@ -17,7 +17,7 @@ constexpr int Width = 900;  // in units of the screen
 constexpr int HeadingHeight = 34;
 constexpr int PartHeight = 190;
 constexpr int Height = HeadingHeight + static_cast<int>(DiagramParts.size()) * PartHeight;
-constexpr int TextHeight = 13;  // whatever the desk's own type is
+constexpr int TextHeight = 13;        // whatever the desk's own type is
 constexpr int Sharpness = 2;          // pixels to a unit
 constexpr int ScreenResolution = 96;  // units to an inch
 

@@ -8,13 +8,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "design/DataRecordPage.h"
 #include "design/NewBeam.h"
-#include "design/RecordDesk.h"
 #include "forms/Form7.h"
 #include "forms/RecordPdf.h"
 #include "forms/RecordSheet.h"
 #include "records/DataRecordFile.h"
+#include "records/DataRecordPage.h"
+#include "records/RecordDesk.h"
 #include "records/RecordFile.h"
 
 namespace kordavan {

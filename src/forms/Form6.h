@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "design/LoadPicture.h"
-#include "design/RecordPage.h"
 #include "forms/Form.h"
+#include "records/RecordPage.h"
 
 class QPushButton;
 

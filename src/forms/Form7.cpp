@@ -9,12 +9,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "design/DataRecordPage.h"
-#include "design/RecordDesk.h"
 #include "forms/PagePreview.h"
 #include "forms/PrinterPort.h"
 #include "forms/RecordPdf.h"
 #include "records/DataRecordFile.h"
+#include "records/DataRecordPage.h"
+#include "records/RecordDesk.h"
 #include "records/RecordFile.h"
 
 namespace kordavan {

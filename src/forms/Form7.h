@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "design/LoadPicture.h"
-#include "design/RecordPage.h"
 #include "forms/Bindings.h"
 #include "forms/Form.h"
+#include "records/RecordPage.h"
 
 class QCheckBox;
 class QGridLayout;

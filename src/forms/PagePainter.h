@@ -7,7 +7,7 @@
 #include <QString>
 
 #include "design/LoadPicture.h"
-#include "design/RecordPage.h"
+#include "records/RecordPage.h"
 
 class QPainter;
 

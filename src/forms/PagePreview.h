@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "design/LoadPicture.h"
-#include "design/RecordPage.h"
+#include "records/RecordPage.h"
 
 namespace kordavan {
 

@@ -60,9 +60,9 @@ std::optional<std::string> QtPrinters::AskFont(QWidget& owner, const std::string
 {
     const QStringList families = QFontDatabase::families();
     bool isChosen = false;
-    const QString family = QInputDialog::getItem(&owner, QStringLiteral("Kordavan"), QStringLiteral("&Font"),
-                                                 families, static_cast<int>(families.indexOf(Text(current))),
-                                                 false, &isChosen);
+    const QString family =
+        QInputDialog::getItem(&owner, QStringLiteral("Kordavan"), QStringLiteral("&Font"), families,
+                              static_cast<int>(families.indexOf(Text(current))), false, &isChosen);
     return isChosen && !family.isEmpty() ? std::optional(Text(family)) : std::nullopt;
 }
 

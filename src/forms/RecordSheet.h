@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "design/LoadPicture.h"
-#include "design/RecordPage.h"
+#include "records/RecordPage.h"
 
 class QLabel;
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "design/DataSheetCaptions.h"
 #include "records/DataRecordLayout.h"
+#include "records/DataSheetCaptions.h"
 #include "records/RecordFile.h"
 
 namespace kordavan {

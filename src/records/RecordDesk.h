@@ -30,7 +30,8 @@ DataSheet HeadedSheet(const Session& session, CalendarDay today);
 /// Heads the sheet on show by what is entered.
 void TakeHeading(Session& session, CalendarDay today);
 
-/// Asks whether the notes of the note clipboard are to be printed, where there are any. A No leaves them out of this print alone.
+/// Asks whether the notes of the note clipboard are to be printed, where there are any. A No leaves them out
+/// of this print alone.
 bool AskToPrintNotes(const Session& session, UserPort& user);
 
 /// Warns that a loaded record is lost on the way to the report, or to the criteria. Refused when the person

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "core/NumberText.h"
-#include "design/DataSheetBlocks.h"
-#include "design/DataSheetCaptions.h"
 #include "design/TestReport.h"
 #include "materials/SteelShapes.h"
+#include "records/DataSheetBlocks.h"
+#include "records/DataSheetCaptions.h"
 
 namespace kordavan {
 
@@ -53,10 +53,11 @@ void FillCheck(const CheckCells& cells, const Check& check, DataSheet& sheet)
 void FillOverhangChecks(const MemberTestResult& result, const TestReport& report, DataSheet& sheet)
 {
     sheet[156] = "OH TL Defl";
-    FillCheck({158, 157, 159, 160},
-              {FormatNumber(result.OverhangDeflectionAllowed, "0.#0"),
-               SmallOr(std::abs(result.OverhangDeflection), "0.#0"), result.OHDeflStatus, report.OHDeflPercent},
-              sheet);
+    FillCheck(
+        {158, 157, 159, 160},
+        {FormatNumber(result.OverhangDeflectionAllowed, "0.#0"),
+         SmallOr(std::abs(result.OverhangDeflection), "0.#0"), result.OHDeflStatus, report.OHDeflPercent},
+        sheet);
     if (!result.OHLDeflStatus.empty()) {
         sheet[161] = "OH LL Defl";
         FillCheck({163, 162, 164, 165},
@@ -113,7 +114,8 @@ void FillWeight(const Session& session, DataSheet& sheet)
 {
     const AnalysisResult& analysis = session.Analysis;
     sheet[143] = session.Numbers.NoWeight ? "0" : FormatNumber(analysis.SelfWeightPlf, "#0.0#");
-    sheet[67] = FormatNumber(Single(static_cast<double>(session.Numbers.SpanCount()) * analysis.SelfWeightTotal), "###0");
+    sheet[67] = FormatNumber(
+        Single(static_cast<double>(session.Numbers.SpanCount()) * analysis.SelfWeightTotal), "###0");
 }
 
 void FillReactions(const AnalysisResult& analysis, DataSheet& sheet)
@@ -149,8 +151,8 @@ void FillChecks(const Session& session, DataSheet& sheet)
               sheet);
     if (!result.LDeflStatus.empty()) {
         FillCheck({109, 106, 114, 155},
-                  {FormatNumber(result.LiveDeflectionAllowed, "0.00"), SmallOr(std::abs(result.LiveDeflection), "0.00"),
-                   result.LDeflStatus, report.LDeflPercent},
+                  {FormatNumber(result.LiveDeflectionAllowed, "0.00"),
+                   SmallOr(std::abs(result.LiveDeflection), "0.00"), result.LDeflStatus, report.LDeflPercent},
                   sheet);
     } else {
         sheet[110].clear();

@@ -1,4 +1,4 @@
-#include "design/RecordPage.h"
+#include "records/RecordPage.h"
 
 #include <algorithm>
 #include <cmath>

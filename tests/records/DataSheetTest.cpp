@@ -2,9 +2,9 @@
 
 #include <map>
 
-#include "design/DataRecordPage.h"
-#include "design/DataSheetFill.h"
 #include "design/SteelBuilder.h"
+#include "records/DataRecordPage.h"
+#include "records/DataSheetFill.h"
 #include "support/CaseName.h"
 
 namespace kordavan {

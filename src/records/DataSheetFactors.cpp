@@ -2,8 +2,8 @@
 #include <string>
 
 #include "core/NumberText.h"
-#include "design/DataSheetBlocks.h"
 #include "materials/SteelShapes.h"
+#include "records/DataSheetBlocks.h"
 
 namespace kordavan {
 

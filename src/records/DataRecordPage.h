@@ -1,7 +1,7 @@
 #pragma once
 
 #include "design/DataSheet.h"
-#include "design/RecordPage.h"
+#include "records/RecordPage.h"
 
 namespace kordavan {
 

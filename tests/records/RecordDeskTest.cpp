@@ -1,4 +1,4 @@
-#include "design/RecordDesk.h"
+#include "records/RecordDesk.h"
 
 #include <gmock/gmock.h>
 

@@ -1,10 +1,10 @@
-#include "design/RecordDesk.h"
+#include "records/RecordDesk.h"
 
 #include <algorithm>
 #include <array>
 #include <string_view>
 
-#include "design/DataSheetFill.h"
+#include "records/DataSheetFill.h"
 
 namespace kordavan {
 

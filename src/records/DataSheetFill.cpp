@@ -1,14 +1,14 @@
-#include "design/DataSheetFill.h"
+#include "records/DataSheetFill.h"
 
 #include <array>
 #include <string>
 #include <vector>
 
 #include "core/NumberText.h"
-#include "design/DataSheetBlocks.h"
-#include "design/DataSheetCaptions.h"
 #include "design/SteelTexts.h"
 #include "design/TestReport.h"
+#include "records/DataSheetBlocks.h"
+#include "records/DataSheetCaptions.h"
 
 namespace kordavan {
 

@@ -1,4 +1,4 @@
-#include "design/DataRecordPage.h"
+#include "records/DataRecordPage.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include <string>
 
 #include "core/NumberText.h"
-#include "design/DataSheetBlocks.h"
+#include "records/DataSheetBlocks.h"
 
 namespace kordavan {
 

@@ -1,4 +1,4 @@
-#include "design/DataSheetCaptions.h"
+#include "records/DataSheetCaptions.h"
 
 #include <array>
 
