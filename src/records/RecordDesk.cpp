@@ -48,8 +48,12 @@ void HeadSheet(const RecordHeading& heading, DataSheet& sheet)
     sheet.Label133Missing = heading.Heading2;
 }
 
+/// A prefix with nothing behind it has lost its last blank in the file.
 std::string WithoutPrefix(std::string_view text, std::string_view prefix)
 {
+    if (text == prefix.substr(0, prefix.size() - 1)) {
+        return {};
+    }
     return std::string(text.starts_with(prefix) ? text.substr(prefix.size()) : text);
 }
 

@@ -86,7 +86,14 @@ TEST_F(RecordFormTest, IsSavedAndShownAgain)
     Settle();
     EXPECT_EQ(LabelText("Label5"), saved[5]);
     EXPECT_EQ(LabelText("Label1"), "Barn");
+    user.WillAnswer(false);
+    Choose("MnuBack");
+    EXPECT_THAT(user.Told.back().Text, HasSubstr("It will be lost if you go to the Report Form3."));
+    EXPECT_EQ(FrontName(), "Form6");
+    Press("Command1");
+    Press("Command3");
     EXPECT_FALSE(Find<QAction>("MnuBack").isEnabled());
+    EXPECT_FALSE(Find<QAction>("backmnu").isEnabled());
     Key(Qt::Key_Escape);
     EXPECT_EQ(FrontName(), "Form6");
     user.WillAnswer(false);
@@ -95,6 +102,32 @@ TEST_F(RecordFormTest, IsSavedAndShownAgain)
     user.WillAnswer(true);
     Choose("MnuCriteria");
     EXPECT_EQ(FrontName(), "Form1");
+}
+
+TEST_F(RecordFormTest, ARecordLoadedIsSavedAsItStood)
+{
+    OpenRecord();
+    session.NoteClipboard[3] = "Paint the ends.";
+    desktop.ChosenFile = desktop.PathOf("beam.Dat");
+    Choose("MnuSaveData");
+    const QByteArray bytes = FileStart(*desktop.ChosenFile, 5000);
+    Choose("MnuOpenData");
+    Press("Command1");
+    desktop.ChosenFile = desktop.PathOf("again.Dat");
+    Choose("MnuSaveRec");
+    EXPECT_EQ(bytes.size(), 4809);
+    EXPECT_EQ(FileStart(*desktop.ChosenFile, 5000), bytes);
+}
+
+TEST_F(RecordFormTest, NotesTypedBesideItStandOnIt)
+{
+    OpenRecord();
+    walk.ShowBeside(Screen::Notes);
+    QTest::keyClicks(&FindIn<QLineEdit>(walk.FormOf(Screen::Notes), "Text2"),
+                     QStringLiteral("Paint the ends."));
+    EXPECT_EQ(session.Record.Sheet.ReportNotes[1], "Paint the ends.");
+    Choose("MnuCopyClip");
+    EXPECT_THAT(Text(QApplication::clipboard()->text()), HasSubstr("\nPaint the ends.\n"));
 }
 
 TEST_F(RecordFormTest, AFileOfAnotherKindLeavesTheSheet)
@@ -195,15 +228,34 @@ TEST_F(PrintFormTest, TheUsualPrinterIsRestoredWhereAskedFor)
     EXPECT_EQ(desktop.Printer.Current, "plotter");
     session.RestoreDefaultPrinter = true;
     desktop.Printer.Current = "office";
+    Press("Command2");
+    Press("Command2");
     Press("CmdPrint");
     EXPECT_EQ(desktop.Printer.Current, "office");
+}
+
+TEST_F(PrintFormTest, ClosingKeepsAHeadingThatWasTyped)
+{
+    OpenPrint();
+    Type("Text2", "ridge, second floor");
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(FrontName(), "Form6");
+    EXPECT_EQ(LabelText("Label3"), "Description: ridge, second floor");
+}
+
+TEST_F(PrintFormTest, APageThatCouldNotBeDrawnIsTold)
+{
+    OpenPrint();
+    desktop.Printer.End = PrintEnd::NotDrawn;
+    Press("CmdPrint");
+    EXPECT_EQ(user.Told.back().Text, "Error at the Print Form 2 procedure.");
 }
 
 TEST_F(PrintFormTest, FaultsAreToldAndTheHeadingStays)
 {
     OpenPrint();
     Type("Heading1", "Timber & Sons");
-    desktop.Printer.Fails = true;
+    desktop.Printer.End = PrintEnd::Failed;
     Press("CmdPrint");
     EXPECT_EQ(user.Told.back().Text,
               "The data record printing was cancelled or could not be printed because an error occurred.");

@@ -38,16 +38,15 @@ public:
 
     PrintEnd Print(const PrintJob& job) override
     {
-        if (Fails) {
-            return PrintEnd::Failed;
+        if (End == PrintEnd::Printed) {
+            Printed.push_back(PlainTextOf(job.Page));
+            Family = Text(job.Family);
         }
-        Printed.push_back(PlainTextOf(job.Page));
-        Family = Text(job.Family);
-        return PrintEnd::Printed;
+        return End;
     }
 
     bool IsThere = true;
-    bool Fails = false;
+    PrintEnd End = PrintEnd::Printed;  // how the next job goes
     std::string Current = "office";
     std::optional<std::string> ChosenFont;
     std::vector<std::string> Printed;

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "design/DesignBuilder.h"
+#include "design/Selection.h"
 
 namespace kordavan {
 namespace {
@@ -41,17 +42,32 @@ TEST(RecordDesk, HeadsTheSheetByWhatWasEnteredForPrinting)
     EXPECT_FALSE(session.Record.HeaderChanged);
 }
 
+/// A record of another beam, as its file brings it: description and beam in the slots after the project.
+DataSheet OldRecord()
+{
+    DataSheet sheet;
+    sheet[1] = "Old house";
+    sheet[2] = "porch";
+    sheet[3] = "B7";
+    sheet[4] = "Date: 5/12/99";
+    sheet[5] = "DF-L #1  4x 12 in.";
+    sheet[169] = "Prepared by: JD";
+    sheet.ReportNotes[2] = "Old note.";
+    return sheet;
+}
+
 TEST(RecordDesk, KeepsALoadedRecordUntilItIsLeft)
 {
     Session session = TestedSession();
     ScriptedUser user;
-    session.Record.FromDisk = true;
-    session.Record.Sheet[1] = "Old house";
-    session.Record.Sheet[5] = "DF-L #1  4x 12 in.";
+    TakeLoadedRecord(session, OldRecord());
     ShowRecord(session, Day, user);
-    EXPECT_EQ(session.Record.Sheet[5], "DF-L #1  4x 12 in.");
+    EXPECT_EQ(session.Record.Sheet, OldRecord());
+    EXPECT_EQ(session.NoteClipboard[2], "Old note.");
     PrepareHeading(session, Day);
-    EXPECT_EQ(session.Record.Heading.Project, "Old house");
+    const RecordHeading& heading = session.Record.Heading;
+    EXPECT_EQ(heading.Project + "|" + heading.Description + "|" + heading.BeamId, "Old house|porch|B7");
+    EXPECT_EQ(heading.Date + "|" + heading.Initials, "5/12/99|JD");
     user.WillAnswer(false);
     EXPECT_EQ(LeaveForReport(session, user), Outcome::Refused);
     EXPECT_THAT(user.Told[0].Text, testing::HasSubstr("It will be lost if you go to the Report Form3."));
@@ -62,12 +78,29 @@ TEST(RecordDesk, KeepsALoadedRecordUntilItIsLeft)
     EXPECT_EQ(LeaveForReport(session, user), Outcome::Done);
 }
 
+/// The sheet is of the member selected; a member that is only being tried out does not get onto it.
+TEST(RecordDesk, KeepsTheSheetOfTheSelectionWhileAnotherMemberIsTested)
+{
+    Session session = TestedSession();
+    ScriptedUser user;
+    SelectMember(session, Day);
+    ShowRecord(session, Day, user);
+    Tested(session, Member("4x", "12", "DF-L #2"));
+    session.NoteClipboard[0] = "Paint the ends.";
+    ShowRecord(session, Day, user);
+    EXPECT_EQ(session.Record.Sheet[5], "DF-L #2  4x 10 in.");
+    EXPECT_EQ(session.Record.Sheet.ReportNotes[0], "Paint the ends.");
+    SelectMember(session, Day);
+    ShowRecord(session, Day, user);
+    EXPECT_EQ(session.Record.Sheet[5], "DF-L #2  4x 12 in.");
+}
+
 TEST(RecordDesk, AsksForNotesWhereThereAreAny)
 {
     Session session;
     ScriptedUser user;
     EXPECT_FALSE(AskToPrintNotes(session, user));
-    session.Record.Sheet.ReportNotes[6] = "last";
+    session.NoteClipboard[6] = "last";
     user.WillAnswer(true);
     EXPECT_TRUE(AskToPrintNotes(session, user));
     user.WillAnswer(false);
