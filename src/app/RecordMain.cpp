@@ -4,11 +4,12 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "batch/BeamRun.h"
-#include "batch/RecordAnswer.h"
+#include "batch/LocalDay.h"
 #include "batch/RequestLine.h"
 #include "core/Version.h"
 #include "design/LoadPicture.h"
@@ -23,18 +24,22 @@ using namespace kordavan;
 
 constexpr int ExitFault = 2;
 
-/// The identification of the beam, fit for a file name.
-std::string FileNameOf(const BeamRun& run, std::size_t line)
+/// The identification of the beam, fit for a file name; a second beam of the same one has its line behind it.
+std::string FileNameOf(const BeamRun& run, std::size_t line, std::set<std::string>& taken)
 {
-    std::string name = run.Work.Problem.ID.empty() ? "beam-" + std::to_string(line) : run.Work.Problem.ID;
+    std::string name = run.Work.Problem.ID.empty() ? "beam" : run.Work.Problem.ID;
     for (char& c : name) {
         c = c == '/' || c == '\\' || c == '\0' ? '-' : c;
+    }
+    while (!taken.insert(name).second) {
+        name += "-" + std::to_string(line);
     }
     return name + ".pdf";
 }
 
 /// Writes the Data Record of one request; false where there is none, which is told.
-bool WriteRecordOf(const std::string& request, std::size_t line, const std::filesystem::path& folder)
+bool WriteRecordOf(const std::string& request, std::size_t line, const std::filesystem::path& folder,
+                   std::set<std::string>& taken)
 {
     rapidjson::Document document;
     ParseRequest(request, document);
@@ -45,7 +50,7 @@ bool WriteRecordOf(const std::string& request, std::size_t line, const std::file
         return false;
     }
     const DataSheet sheet = FillDataRecord(run.Work, LocalToday(), run.User);
-    const std::string path = folder / FileNameOf(run, line);
+    const std::string path = folder / FileNameOf(run, line, taken);
     const std::string fault = SavePdf(path, LayOutDataRecord(sheet, {}),
                                       PictureOfCalculated(run.Work.Numbers), Text(std::string_view("Arial")));
     if (fault.empty()) {
@@ -56,7 +61,8 @@ bool WriteRecordOf(const std::string& request, std::size_t line, const std::file
     return fault.empty();
 }
 
-bool WriteRecordsOf(const std::string& file, const std::filesystem::path& folder)
+bool WriteRecordsOf(const std::string& file, const std::filesystem::path& folder,
+                    std::set<std::string>& taken)
 {
     std::ifstream requests(file);
     if (!requests) {
@@ -67,7 +73,7 @@ bool WriteRecordsOf(const std::string& file, const std::filesystem::path& folder
     std::string request;
     for (std::size_t line = 1; std::getline(requests, request); ++line) {
         try {
-            allWritten = WriteRecordOf(request, line, folder) && allWritten;
+            allWritten = WriteRecordOf(request, line, folder, taken) && allWritten;
         } catch (const InvalidRequest& fault) {
             std::cerr << "kordavan-record: line " << line << ": " << fault.what() << '\n';
             allWritten = false;
@@ -90,8 +96,9 @@ int Run(int argc, char** argv)
         return app.exit(stop) == 0 ? 0 : ExitFault;
     }
     bool allWritten = true;
+    std::set<std::string> taken;
     for (const std::string& file : files) {
-        allWritten = WriteRecordsOf(file, folder) && allWritten;
+        allWritten = WriteRecordsOf(file, folder, taken) && allWritten;
     }
     return allWritten ? 0 : ExitFault;
 }

@@ -9,6 +9,7 @@
 #include "batch/AnswerWriter.h"
 #include "batch/BeamAnswer.h"
 #include "batch/BeamRun.h"
+#include "batch/LocalDay.h"
 #include "batch/RecordAnswer.h"
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"

@@ -42,11 +42,12 @@ struct RecordHeading {
 /// The Data Record on the screen.
 struct RecordOnShow {
     DataSheet Sheet;
+    DataSheet OwnSheet;  // of the selection, while a loaded one is on show
     RecordHeading Heading;
-    bool IsOfSelection = false;    // the member of the sheet is the one on record
-    bool CanBeRefilled = false;    // that member was the last to be tested
-    bool FromDisk = false;         // only text, of a beam that may be another
-    bool HeaderChanged = false;    // the sheet is headed by what was entered to print it
+    bool IsOfSelection = false;  // the member of the sheet is the one on record
+    bool CanBeRefilled = false;  // that member was the last to be tested
+    bool FromDisk = false;       // only text, of a beam that may be another
+    bool HeaderChanged = false;  // the sheet is headed by what was entered to print it
 };
 
 }  // namespace kordavan

@@ -262,6 +262,9 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     session.SoPineLowered = test.SoPineLowered;
     StoreTest(member, candidate, deflection, session);
     session.Member.Result.NextSmallerOk = nextSmallerOk;
+    session.Member.Grading = {.SoPine = entry.Custom.CustomIngradeSP,
+                              .Mel = entry.Custom.MELCheckbox,
+                              .Msr = entry.Custom.MSRCheckbox};
     return Outcome::Done;
 }
 

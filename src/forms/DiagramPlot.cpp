@@ -27,8 +27,9 @@ void DiagramPlot::ShowView()
 {
     const LoadDiagram& diagram = view.Diagram;
     const bool isLoads = part == DiagramPart::Loads;
-    setAccessibleDescription(
-        Text(isLoads ? diagram.LoadsText : diagram.Plots[static_cast<std::size_t>(part) - 1].Peaks));
+    const std::string& peaks =
+        isLoads ? diagram.LoadsText : diagram.Plots[static_cast<std::size_t>(part) - 1].Peaks;
+    setAccessibleDescription(Text(ReadingText(diagram, view.Cursor) + "\n" + peaks));
     update();
 }
 

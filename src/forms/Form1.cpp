@@ -323,6 +323,7 @@ void Form1::StartNew()
 {
     if (OfferNewBeam(TheSession(), User()) == Outcome::Done) {
         partialCalculator->PutAway();
+        TheWalk().RefreshBeside(Screen::Notes);
         Refresh();
         FocusOn("Proj");
     }

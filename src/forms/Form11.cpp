@@ -153,9 +153,6 @@ void Form11::ShowDiagram()
         analysisShown = TheWalk().AnalysisCount;
         view.Cursor = PlaceOfGreatestMoment(view.Diagram.Curves);
     }
-    for (DiagramPlot* const plot : plots) {
-        plot->ShowView();
-    }
     peaks->setText(Text(PeakText(view.Diagram)));
     for (QPushButton* const command : {copy, save}) {
         command->setEnabled(!view.Diagram.IsEmpty());
@@ -168,7 +165,7 @@ void Form11::MoveCursor(double feet)
     view.Cursor = feet;
     reading->setText(Text(ReadingText(view.Diagram, feet)));
     for (DiagramPlot* const plot : plots) {
-        plot->update();
+        plot->ShowView();
     }
 }
 

@@ -265,6 +265,7 @@ void Form5::OnShapeStep(SteelStep step)
 void Form5::OnNewBeam()
 {
     if (OfferNewBeamAfterReport(TheSession(), User()) == Outcome::Done) {
+        TheWalk().RefreshBeside(Screen::Notes);
         TheWalk().Go(Screen::Criteria);
         TheWalk().Front()->FocusOn("Proj");
     }

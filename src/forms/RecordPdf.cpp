@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include "forms/Kit.h"
 #include "forms/PagePainter.h"
 #include "records/RecordFile.h"
 
@@ -19,7 +20,7 @@ QByteArray PdfOf(const RecordPage& page, const std::optional<LoadPicture>& loads
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setTitle(QStringLiteral("Kordavan Data Record"));
+    writer.setTitle(Text(page.Title));
     writer.setCreator(QStringLiteral("Kordavan"));
     writer.setPageSize(QPageSize(QPageSize::Letter));
     writer.setPageMargins(QMarginsF());

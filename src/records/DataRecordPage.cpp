@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "records/DataSheetBlocks.h"
+
 namespace kordavan {
 
 namespace {
@@ -31,6 +33,7 @@ public:
             page.TextSize = 8.5;
             page.RuleThickness = fine;
         }
+        page.Title = sheet[1] + "  " + sheet[2];
     }
 
     RecordPage& Page() { return page; }
@@ -107,20 +110,6 @@ void WriteMember(PageWriter& writer, const DataSheet& sheet)
     writer.NextLine(1.35);
 }
 
-/// The labels of one check.
-struct CheckRow {
-    std::size_t Caption;
-    std::size_t Critical;
-    std::size_t Actual;
-    std::size_t Status;
-    std::size_t Ratio;
-};
-
-constexpr std::array CheckRows{
-    CheckRow{9, 13, 14, 111, 152},     CheckRow{10, 15, 16, 112, 153},    CheckRow{11, 17, 18, 113, 154},
-    CheckRow{110, 109, 106, 114, 155}, CheckRow{156, 158, 157, 159, 160}, CheckRow{161, 163, 162, 164, 165},
-};
-
 void WriteChecks(PageWriter& writer, const PageOptions& options)
 {
     constexpr Column critical{112, 58};
@@ -135,7 +124,7 @@ void WriteChecks(PageWriter& writer, const PageOptions& options)
     writer.Cell(151, ratio, PageStyle::ColumnHead);
     writer.NextLine();
     const double rows = writer.Top();
-    for (const CheckRow& row : CheckRows) {
+    for (const CheckCells& row : CheckRows) {
         writer.Cell(row.Caption, CaptionColumn, PageStyle::Caption);
         writer.Cell(row.Critical, critical);
         writer.Cell(row.Actual, actual);

@@ -110,22 +110,22 @@ void FillStability(const Session& session, DataSheet& sheet)
 
 std::string OwnValuesNote(const Session& session)
 {
-    const CustomEntry& custom = session.Entry.Custom;
-    if (custom.CustomIngradeSP) {
+    const OwnGrading& grading = session.Member.Grading;
+    if (grading.SoPine) {
         return "USER'S SO. PINE REF VALUES";
     }
-    if (custom.MELCheckbox) {
+    if (grading.Mel) {
         return "USER'S M.E.L. REF VALUES";
     }
-    return custom.MSRCheckbox ? "USER'S M.S.R. REF VALUES" : "USER'S CUSTOM REF VALUES";
+    return grading.Msr ? "USER'S M.S.R. REF VALUES" : "USER'S CUSTOM REF VALUES";
 }
 
 /// A member too slender says so, whoever its values are from.
 void FillNote(const Session& session, UserPort& user, DataSheet& sheet)
 {
-    const CustomEntry& custom = session.Entry.Custom;
+    const OwnGrading& grading = session.Member.Grading;
     const bool isCustom = session.Numbers.Group == SpeciesGroup::Custom;
-    if (isCustom && custom.CustomIngradeSP + custom.MELCheckbox + custom.MSRCheckbox > 1) {
+    if (isCustom && grading.SoPine + grading.Mel + grading.Msr > 1) {
         user.Tell(Alert(MixedGrades));
     }
     const StabilityResult& stability = session.Member.Stability;

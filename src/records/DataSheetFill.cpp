@@ -68,7 +68,7 @@ std::string AttributeLine(const Session& session)
 {
     const BeamNumbers& beam = session.Numbers;
     const BeamProblem& problem = session.Problem;
-    const CustomEntry& custom = session.Entry.Custom;
+    const OwnGrading& grading = session.Member.Grading;
     const bool isCustom = beam.Group == SpeciesGroup::Custom;
     std::string line;
     const auto add = [&line](bool applies, std::string_view text) {
@@ -81,8 +81,8 @@ std::string AttributeLine(const Session& session)
     add(beam.Wet, ", Wet Use");
     add(IsIncised(session), ", Incised");
     add(session.Member.Result.NoSplits, ", No Splits");
-    add(isCustom && custom.MELCheckbox, ", MEL Lumber");
-    add(isCustom && custom.MSRCheckbox, ", MSR Lumber");
+    add(isCustom && grading.Mel, ", MEL Lumber");
+    add(isCustom && grading.Msr, ", MSR Lumber");
     if (!beam.IsSteel()) {
         AddEdition(beam.Nds, line);
     }

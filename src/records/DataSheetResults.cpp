@@ -27,14 +27,6 @@ std::string SmallOr(double deflection, std::string_view format)
     return size > 0 && size < LeastShown ? "<0.01" : FormatNumber(Single(deflection), format);
 }
 
-/// The cells of a check by their labels.
-struct CheckCells {
-    std::size_t Critical;
-    std::size_t Actual;
-    std::size_t Status;
-    std::size_t Ratio;
-};
-
 struct Check {
     std::string Critical;
     std::string Actual;
@@ -52,15 +44,15 @@ void FillCheck(const CheckCells& cells, const Check& check, DataSheet& sheet)
 
 void FillOverhangChecks(const MemberTestResult& result, const TestReport& report, DataSheet& sheet)
 {
-    sheet[156] = "OH TL Defl";
+    sheet[OverhangCells.Caption] = "OH TL Defl";
     FillCheck(
-        {158, 157, 159, 160},
+        OverhangCells,
         {FormatNumber(result.OverhangDeflectionAllowed, "0.#0"),
          SmallOr(std::abs(result.OverhangDeflection), "0.#0"), result.OHDeflStatus, report.OHDeflPercent},
         sheet);
     if (!result.OHLDeflStatus.empty()) {
-        sheet[161] = "OH LL Defl";
-        FillCheck({163, 162, 164, 165},
+        sheet[OverhangLiveCells.Caption] = "OH LL Defl";
+        FillCheck(OverhangLiveCells,
                   {FormatNumber(result.OverhangLiveDeflectionAllowed, "0.#0"),
                    FormatNumber(std::abs(result.OverhangLiveDeflection), "0.#0"), result.OHLDeflStatus,
                    report.OHLDeflPercent},
@@ -137,25 +129,25 @@ void FillChecks(const Session& session, DataSheet& sheet)
 {
     const MemberTestResult& result = session.Member.Result;
     const TestReport report = MakeTestReport(session);
-    FillCheck({13, 14, 111, 152},
+    FillCheck(SectionCells,
               {FormatNumber(result.SectionReq, "####0.00"), FormatNumber(result.SectionProp, "####0.00"),
                result.SecStatus, report.SecPercent},
               sheet);
-    FillCheck({15, 16, 112, 153},
+    FillCheck(ShearCells,
               {FormatNumber(result.AreaReq, "#,##0.00"), FormatNumber(result.AreaProp, "#,##0.00"),
                result.ShearStatus, report.HorPercent},
               sheet);
-    FillCheck({17, 18, 113, 154},
+    FillCheck(TotalDeflectionCells,
               {FormatNumber(result.TotalDeflectionAllowed, "0.00"),
                FormatNumber(std::abs(result.TotalDeflection), "0.00"), result.DeflStatus, report.DeflPercent},
               sheet);
     if (!result.LDeflStatus.empty()) {
-        FillCheck({109, 106, 114, 155},
+        FillCheck(LiveDeflectionCells,
                   {FormatNumber(result.LiveDeflectionAllowed, "0.00"),
                    SmallOr(std::abs(result.LiveDeflection), "0.00"), result.LDeflStatus, report.LDeflPercent},
                   sheet);
     } else {
-        sheet[110].clear();
+        sheet[LiveDeflectionCells.Caption].clear();
     }
     if (session.Numbers.IsOverhanging()) {
         FillOverhangChecks(result, report, sheet);

@@ -57,6 +57,29 @@ std::string WithoutPrefix(std::string_view text, std::string_view prefix)
     return std::string(text.starts_with(prefix) ? text.substr(prefix.size()) : text);
 }
 
+RecordHeading HeadingOfProblem(const Session& session, CalendarDay today)
+{
+    return {.Project = session.Problem.Proj,
+            .Description = session.Problem.Descrip,
+            .BeamId = session.Problem.ID,
+            .Heading1 = session.Header.Heading1,
+            .Heading2 = session.Header.Heading2,
+            .Date = ShortDate(today),
+            .Initials = session.Header.Initialbox};
+}
+
+/// The heading that stands on a sheet of our own.
+RecordHeading HeadingOnSheet(const DataSheet& sheet)
+{
+    RecordHeading heading;
+    for (const HeadCell& cell : HeadCells) {
+        heading.*cell.Text = WithoutPrefix(sheet[cell.Label], cell.Prefix);
+    }
+    heading.Heading1 = sheet[132];
+    heading.Heading2 = sheet.Label133Missing;
+    return heading;
+}
+
 /// The heading of a sheet as it was loaded: the record holds description and beam identification in the other
 /// order than the sheet has them.
 RecordHeading HeadingOfLoaded(const DataSheet& sheet)
@@ -78,11 +101,9 @@ Outcome LeaveLoadedRecord(Session& session, std::string_view warning, UserPort& 
     if (!user.Ask(RiskyQuestion(warning))) {
         return Outcome::Refused;
     }
-    const bool isOfSelection = session.Record.IsOfSelection && session.Record.CanBeRefilled;
-    session.Record = {.Sheet = {},
-                      .Heading = {},
-                      .IsOfSelection = isOfSelection,
-                      .CanBeRefilled = session.Record.CanBeRefilled};
+    RecordOnShow& record = session.Record;
+    record.Sheet = std::move(record.OwnSheet);
+    record.FromDisk = record.HeaderChanged = false;
     return Outcome::Done;
 }
 
@@ -108,10 +129,15 @@ void BringNotes(Session& session)
 void TakeLoadedRecord(Session& session, const DataSheet& sheet)
 {
     RecordOnShow& record = session.Record;
+    if (!record.FromDisk) {
+        record.OwnSheet = std::move(record.Sheet);
+    }
     record.Sheet = sheet;
     record.FromDisk = true;
     record.HeaderChanged = false;
-    session.NoteClipboard = sheet.ReportNotes;
+    if (sheet.ReportNotes != ReportNoteLines{}) {
+        session.NoteClipboard = sheet.ReportNotes;
+    }
 }
 
 void PrepareHeading(Session& session, CalendarDay today)
@@ -120,14 +146,12 @@ void PrepareHeading(Session& session, CalendarDay today)
     if (record.HeaderChanged) {
         return;
     }
-    record.Heading = record.FromDisk ? HeadingOfLoaded(record.Sheet)
-                                     : RecordHeading{.Project = session.Problem.Proj,
-                                                     .Description = session.Problem.Descrip,
-                                                     .BeamId = session.Problem.ID,
-                                                     .Heading1 = session.Header.Heading1,
-                                                     .Heading2 = session.Header.Heading2,
-                                                     .Date = ShortDate(today),
-                                                     .Initials = session.Header.Initialbox};
+    if (record.FromDisk) {
+        record.Heading = HeadingOfLoaded(record.Sheet);
+    } else {
+        record.Heading =
+            record.CanBeRefilled ? HeadingOfProblem(session, today) : HeadingOnSheet(record.Sheet);
+    }
     if (record.Heading.Date.empty()) {
         record.Heading.Date = ShortDate(today);
     }

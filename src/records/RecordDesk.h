@@ -14,11 +14,12 @@ void ShowRecord(Session& session, CalendarDay today, UserPort& user);
 /// Puts the notes of the note clipboard on the sheet.
 void BringNotes(Session& session);
 
-/// Shows a record that was loaded from a file, and its notes.
+/// Shows a record that was loaded from a file, and its notes if it has any. The sheet of the selection comes
+/// back once the loaded one is left.
 void TakeLoadedRecord(Session& session, const DataSheet& sheet);
 
-/// Fills the heading to be printed: of the criteria and the standing header, or of the loaded record itself.
-/// A date already entered stays.
+/// Fills the heading to be printed: of the criteria and the standing header, or, where the sheet can no
+/// longer be filled again, as it stands on the sheet. One already entered stays.
 void PrepareHeading(Session& session, CalendarDay today);
 
 /// Empties the heading.

@@ -37,6 +37,7 @@ struct PageRule {
 
 /// A record laid out on one sheet, for the screen, the printer and the clipboard alike.
 struct RecordPage {
+    std::string Title;   // of a file of the page
     double Width = 612;  // US Letter, upright
     double Height = 792;
     double TextSize = 9;

@@ -106,8 +106,8 @@ TEST_F(RecordFormTest, IsSavedAndShownAgain)
 
 TEST_F(RecordFormTest, ARecordLoadedIsSavedAsItStood)
 {
-    OpenRecord();
     session.NoteClipboard[3] = "Paint the ends.";
+    OpenRecord();
     desktop.ChosenFile = desktop.PathOf("beam.Dat");
     Choose("MnuSaveData");
     const QByteArray bytes = FileStart(*desktop.ChosenFile, 5000);

@@ -196,6 +196,14 @@ TEST(DataRecord, OfWoodShowsTheFactorThatSteelHid)
     EXPECT_EQ(Opened(BlankRecord(), steel)[33], "Cr Repetitive");
 }
 
+TEST(DataRecord, ShowsBlanksForWhatIsNoText)
+{
+    const RecordBytes bytes = BlankRecord().Text(242, "a\n\tb").Text(3662, std::string("\0c\r", 3));
+    const DataSheet sheet = Opened(bytes, {});
+    EXPECT_EQ(sheet[5], "a  b");
+    EXPECT_EQ(sheet.ReportNotes[0], " c");
+}
+
 TEST(DataRecord, OfACutFileIsShownAsFarAsItGoes)
 {
     struct CutCase {

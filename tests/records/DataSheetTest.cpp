@@ -368,12 +368,12 @@ INSTANTIATE_TEST_SUITE_P(
                     {{34, "Ci Incised"}, {42, "1.00"}, {46, "0.95"}}}),
     CaseName);
 
-/// The coefficient of visually graded lumber in NDS 1997, 3.3.3.8.
+/// 0.745 - 1.225 COV with the 0.25 of visually graded lumber is 0.43875 (NDS 2001, 3.3.3.8 and appendix F).
 TEST(DataSheet, OfOldEditionsTellsTheBucklingCoefficient)
 {
     Session session = PlainSession(Edition::Nds1997);
     session.Problem.UBLtext = "8";
-    EXPECT_THAT(SheetOf(session, Member("4x", "10", "DF-L #2"))[192], testing::EndsWith("    Kbe = 0.438"));
+    EXPECT_THAT(SheetOf(session, Member("4x", "10", "DF-L #2"))[192], testing::EndsWith("    Kbe = 0.439"));
 }
 
 /// The form factor of round members stands in its own place since NDS 2005, where it is part of the values.
@@ -412,6 +412,22 @@ INSTANTIATE_TEST_SUITE_P(
                     NoteCase{"MEL", &CustomEntry::MELCheckbox, "USER'S M.E.L. REF VALUES"},
                     NoteCase{"MSR", &CustomEntry::MSRCheckbox, "USER'S M.S.R. REF VALUES"}),
     CaseName);
+
+/// What is ticked after the test is of another member.
+TEST(DataSheet, NamesTheGradingThatWasTested)
+{
+    Session session = PlainSession();
+    session.Problem.Combo1 = SpeciesGroup::Custom;
+    MemberEntry entry = Member("4x", "10", "Own");
+    entry.Custom = OwnValues();
+    entry.Custom.MSRCheckbox = true;
+    session.Entry = entry;
+    Calculate(session);
+    Tested(session, entry);
+    session.Entry.Custom.MSRCheckbox = false;
+    session.Entry.Custom.MELCheckbox = true;
+    EXPECT_EQ(Filled(session)[6], ", MSR Lumber, NDS 2018");
+}
 
 TEST(DataSheet, TellsOfTwoGradesAtOnce)
 {

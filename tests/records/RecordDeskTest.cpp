@@ -25,6 +25,7 @@ TEST(RecordDesk, HeadsTheSheetByWhatWasEnteredForPrinting)
 {
     Session session = TestedSession();
     ScriptedUser user;
+    SelectMember(session, Day);
     ShowRecord(session, Day, user);
     PrepareHeading(session, Day);
     EXPECT_EQ(session.Record.Heading.Project, "Barn");
@@ -93,6 +94,41 @@ TEST(RecordDesk, KeepsTheSheetOfTheSelectionWhileAnotherMemberIsTested)
     SelectMember(session, Day);
     ShowRecord(session, Day, user);
     EXPECT_EQ(session.Record.Sheet[5], "DF-L #2  4x 12 in.");
+}
+
+/// After a calculation the sheet stands as it was, under the heading that it was printed with.
+TEST(RecordDesk, HeadsAnOlderSheetAsItStands)
+{
+    Session session = TestedSession();
+    ScriptedUser user;
+    SelectMember(session, Day);
+    ShowRecord(session, Day, user);
+    PrepareHeading(session, Day);
+    session.Record.Heading.Project = "Barn, phase 2";
+    TakeHeading(session, Day);
+    Calculate(session);
+    PrepareHeading(session, Day);
+    const RecordHeading& heading = session.Record.Heading;
+    EXPECT_EQ(heading.Project + "|" + heading.Description + "|" + heading.Heading1,
+              "Barn, phase 2|ridge|Timber & Sons");
+}
+
+TEST(RecordDesk, BringsItsOwnSheetBackBehindALoadedOne)
+{
+    Session session = TestedSession();
+    session.NoteClipboard[0] = "Mine.";
+    ScriptedUser user;
+    SelectMember(session, Day);
+    ShowRecord(session, Day, user);
+    Calculate(session);
+    const DataSheet own = session.Record.Sheet;
+    TakeLoadedRecord(session, DataSheet{});
+    EXPECT_EQ(session.NoteClipboard[0], "Mine.");
+    TakeLoadedRecord(session, OldRecord());
+    user.WillAnswer(true);
+    LeaveForCriteria(session, user);
+    EXPECT_EQ(session.Record.Sheet, own);
+    EXPECT_TRUE(session.Record.IsOfSelection);
 }
 
 TEST(RecordDesk, AsksForNotesWhereThereAreAny)
