@@ -17,7 +17,7 @@ using Cells = std::map<std::size_t, std::string>;
 DataSheet Filled(const Session& session)
 {
     ScriptedUser user;
-    const DataSheet sheet = FillDataRecord(session, Day, user);
+    DataSheet sheet = FillDataRecord(session, Day, user);
     EXPECT_TRUE(user.Told.empty());
     return sheet;
 }
