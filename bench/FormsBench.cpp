@@ -7,6 +7,7 @@
 #include "design/Selection.h"
 #include "forms/DesktopPort.h"
 #include "forms/Form.h"
+#include "forms/QtPrinters.h"
 #include "forms/Walk.h"
 
 namespace kordavan {
@@ -26,7 +27,12 @@ public:
     void EndProgram() override {}
     std::optional<std::string> AskOpenFile(const FileDialogText& /*text*/) override { return std::nullopt; }
     std::optional<std::string> AskSaveFile(const FileDialogText& /*text*/) override { return std::nullopt; }
+    void CopyPicture(const QImage& /*picture*/, const std::string& /*words*/) override {}
+    PrinterPort& Printers() override { return printers; }
     std::string FixedFilesFolder() override { return "."; }
+
+private:
+    QtPrinters printers;
 };
 
 /// A 14 ft simple beam, walked to the report of its first pick.

@@ -2,15 +2,19 @@
 
 #include <array>
 #include <exception>
+#include <optional>
 #include <string>
 
 #include "batch/AnswerOutcome.h"
 #include "batch/AnswerWriter.h"
 #include "batch/BeamAnswer.h"
 #include "batch/BeamRun.h"
+#include "batch/LocalDay.h"
+#include "batch/RecordAnswer.h"
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
+#include "records/DataSheetFill.h"
 
 namespace kordavan {
 
@@ -20,6 +24,10 @@ void AnswerBeam(const JsonValue& request, const JsonValue* id, AnswerWriter& ans
 {
     BeamRun run;
     RunBeam(request, run);
+    std::optional<DataSheet> sheet;
+    if (run.Tested && run.WantsRecord) {
+        sheet = FillDataRecord(run.Work, LocalToday(), run.User);
+    }
     answer.BeginObject();
     WriteOutcome(id, run.User, run.IsDone(), answer);
     if (run.Analysed) {
@@ -37,6 +45,9 @@ void AnswerBeam(const JsonValue& request, const JsonValue* id, AnswerWriter& ans
             WriteMemberTest(run.Work.Member, answer);
         }
         WriteReport(run.Work, answer);
+    }
+    if (sheet) {
+        WriteRecord(*sheet, answer);
     }
     answer.EndObject();
 }

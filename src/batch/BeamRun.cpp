@@ -16,8 +16,8 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> BeamFields{"task",   "id",     "edition", "criteria",
-                                                     "member", "answer", "stations"};
+constexpr std::array<std::string_view, 8> BeamFields{"task",   "id",     "edition",  "criteria",
+                                                     "member", "answer", "stations", "record"};
 constexpr std::array<std::string_view, 5> CriteriaTaskFields{"task", "id", "edition", "criteria", "answer"};
 
 bool AnswersYes(const JsonValue& request)
@@ -60,11 +60,11 @@ Outcome Calculate(BeamRun& run)
 /// True when the member was tested, whether it passes or fails.
 bool TestEntry(const MemberEntry& entry, BeamRun& run)
 {
+    run.Work.Entry = entry;
     if (!run.Work.Numbers.IsSteel()) {
         return TestMember(run.Work, entry, {}, run.User) == Outcome::Done;
     }
     PrepareSteel(run.Work);
-    run.Work.Entry.ShapeName = entry.ShapeName;
     return TestEnteredShape(run.Work, run.User) == SteelTestEnd::Done;
 }
 
@@ -76,6 +76,9 @@ void RunBeam(const JsonValue& request, BeamRun& run)
     ReadProblem(request, run);
     if (const JsonValue* const stations = FindMember(request, "stations")) {
         run.WantsStations = FlagOf(*stations, FieldPath("stations"));
+    }
+    if (const JsonValue* const record = FindMember(request, "record")) {
+        run.WantsRecord = FlagOf(*record, FieldPath("record"));
     }
     MemberEntry entry;
     if (const JsonValue* const member = FindMember(request, "member")) {

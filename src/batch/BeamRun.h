@@ -11,6 +11,7 @@ struct BeamRun {
     Session Work;
     CollectingUser User;
     bool WantsStations = false;
+    bool WantsRecord = false;
     bool HasMember = false;
     bool Analysed = false;
     bool Tested = false;

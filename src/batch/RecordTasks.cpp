@@ -11,6 +11,8 @@
 #include "records/CriteriaRecord.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
+#include "records/DataRecordFile.h"
+#include "records/DataRecordLayout.h"
 #include "records/DefaultsFile.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecordFile.h"
@@ -44,6 +46,7 @@ void TellCriteria(const PackedRecord& record, const Session& /*session*/, UserPo
 constexpr std::array Kinds{
     RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteria},
     RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValues, TellCustomValues},
+    RecordKind{"data-record", &DataRecordLayout, DataRecordTag, CheckDataRecordTag, TellNothing},
     RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},
     RecordKind{"scl", &SclLayout, SclTag, CheckSclTag, TellNothing},
     RecordKind{"scl-custom", &CustomSclLayout, CustomSclTag, CheckCustomSclTag, TellNothing},

@@ -61,6 +61,8 @@ struct BeamNumbers {
     bool IsSteel() const { return Group == SpeciesGroup::Steel; }
     bool IsOverhanging() const { return Support == SupportCondition::Overhanging; }
     bool IsContinuous() const { return Support == SupportCondition::MultipleSpans; }
+    int SpanCount() const { return !IsContinuous() ? 1 : ThreeSpan ? 3 : 2; }
+    double Length() const { return SpanCount() * Span + Overhang; }  // ft, all spans and the overhang
 };
 
 /// Reads the entries of the problem; edition, slope, density and increasing loads are the caller's to set. A

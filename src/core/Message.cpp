@@ -30,6 +30,13 @@ Message Question(std::string_view text)
     return Compose(MessageKind::Question, text, {});
 }
 
+Message RiskyQuestion(std::string_view text)
+{
+    Message question = Question(text);
+    question.IsRisky = true;
+    return question;
+}
+
 Message Marked(Message message, MessageIcon icon)
 {
     message.Icon = icon;

@@ -26,6 +26,9 @@ Message Refusal(std::string_view text, std::string_view focus = {});
 Message Alert(std::string_view text, std::string_view focus = {});
 Message Question(std::string_view text);
 
+/// A question whose Yes loses something.
+Message RiskyQuestion(std::string_view text);
+
 /// The message with another icon.
 Message Marked(Message message, MessageIcon icon);
 

@@ -155,6 +155,9 @@ Outcome AdjustAndAnalyse(Session& session, UserPort& user, const Progress& progr
     if (beam.Group != SpeciesGroup::Custom) {
         DiscardOwnValues(session.Entry);
     }
+    session.Record.CanBeRefilled = false;
+    session.Record.FromDisk = false;
+    session.Record.HeaderChanged = false;
     progress.Reach(AllReached);
     return Outcome::Done;
 }

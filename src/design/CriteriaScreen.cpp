@@ -73,6 +73,7 @@ CriteriaScreen DescribeCriteriaScreen(const Session& session)
     CriteriaScreen screen;
     screen.Title = TitleOf(session);
     screen.SavePanel = CriteriaResultLine(session.Selection);
+    screen.HasRecord = session.Selection && session.Record.IsOfSelection;
     screen.UBLlabel = isContinuous ? "Assumed fully braced" : "Unbraced length in ft";
     screen.HasUnbracedLength = !FixedUnbracedLength(problem);
     screen.HasOverhang = problem.Support == SupportCondition::Overhanging;

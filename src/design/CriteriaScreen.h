@@ -23,6 +23,7 @@ struct UnbalanceButton {
 struct CriteriaScreen {
     std::string Title;
     std::string SavePanel;
+    bool HasRecord = false;  // the member chosen last can be shown on its Data Record
     std::string_view UBLlabel;
     std::string_view UnbracedUnit;  // of an overhanging beam with the part that it stands for
     bool HasUnbracedLength = true;  // the box may be typed in

@@ -8,13 +8,19 @@ namespace kordavan {
 
 namespace {
 
+/// The load of a hip or valley beside the numbers of its beam.
+struct RoofLoad {
+    PictureLoadKind Kind;
+    double Total;
+    double Live;
+};
+
 class PictureReader {
 public:
-    explicit PictureReader(const Session& session)
-        : beam(ReadBeamNumbers(session.Problem)), entries(session.Problem.Loads)
+    PictureReader(const BeamNumbers& theBeam, const RoofLoad& roofLoad) : beam(theBeam), roof(roofLoad)
     {
         picture.Support = beam.Support;
-        picture.SpanCount = beam.IsContinuous() ? (beam.ThreeSpan ? 3 : 2) : 1;
+        picture.SpanCount = beam.SpanCount();
         picture.Span = beam.Span;
         picture.Overhang = beam.Overhang;
     }
@@ -48,8 +54,8 @@ private:
 
     void AddRoof()
     {
-        AddOverSpan(PictureLoadKind::Beside, Val(entries.IncUnifTL), Val(entries.IncUnifLL));
-        AddOverSpan(PictureLoadKind::Rising, Val(entries.IncTL), Val(entries.IncLL));
+        AddOverSpan(PictureLoadKind::Beside, beam.Loads.IncUnifTL, beam.Loads.IncUnifLL);
+        AddOverSpan(roof.Kind, roof.Total, roof.Live);
         picture.Equivalent = beam.Loads.UNIF;
     }
 
@@ -108,8 +114,8 @@ private:
         }
     }
 
-    BeamNumbers beam;
-    const LoadSet& entries;
+    const BeamNumbers& beam;
+    const RoofLoad& roof;
     LoadPicture picture;
 };
 
@@ -151,6 +157,8 @@ std::string NameOf(const PictureLoad& load)
     switch (load.Kind) {
         case PictureLoadKind::Rising:
             return "Roof load";
+        case PictureLoadKind::RisingLine:
+            return "Rising load";
         case PictureLoadKind::Beside:
             return "Uniform load beside it";
         case PictureLoadKind::Uniform:
@@ -170,6 +178,7 @@ std::string_view UnitOf(PictureLoadKind kind)
             return " psf";
         case PictureLoadKind::Uniform:
         case PictureLoadKind::Partial:
+        case PictureLoadKind::RisingLine:
         case PictureLoadKind::Beside:
             break;
     }
@@ -180,6 +189,9 @@ std::string DescribePlace(const PictureLoad& load)
 {
     if (load.Kind == PictureLoadKind::Rising) {
         return ", rising from R1 to R2";
+    }
+    if (load.Kind == PictureLoadKind::RisingLine) {
+        return " at R2, rising from nothing at R1";
     }
     if (load.Kind == PictureLoadKind::Uniform || load.Kind == PictureLoadKind::Beside) {
         return " over the whole span";
@@ -197,9 +209,19 @@ std::string DescribePlace(const PictureLoad& load)
 
 LoadPicture ReadLoadPicture(const Session& session)
 {
-    LoadPicture picture = PictureReader(session).Read();
+    const LoadSet& loads = session.Problem.Loads;
+    const RoofLoad roof{PictureLoadKind::Rising, Val(loads.IncTL), Val(loads.IncLL)};
+    LoadPicture picture = PictureReader(ReadBeamNumbers(session.Problem), roof).Read();
     picture.UnbalancedLine = UnbalancedLine(session.Unbalanced);
     return picture;
+}
+
+LoadPicture PictureOfCalculated(const BeamNumbers& beam)
+{
+    const double perPound = 2 / beam.Span;  // of the whole load, at R2
+    const RoofLoad roof{PictureLoadKind::RisingLine, perPound * beam.IncreasingTotalLoad,
+                        perPound * beam.IncreasingLiveLoad};
+    return PictureReader(beam, roof).Read();
 }
 
 std::string DescribePicture(const LoadPicture& picture)

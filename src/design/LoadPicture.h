@@ -8,8 +8,9 @@
 
 namespace kordavan {
 
-/// Rising is the roof load of a hip or valley, Beside the uniform load that may stand beside it.
-enum class PictureLoadKind { Uniform, Point, Partial, Rising, Beside };
+/// Rising is the roof load of a hip or valley as entered, RisingLine what it makes on the beam, Beside the
+/// uniform load that may stand beside it.
+enum class PictureLoadKind { Uniform, Point, Partial, Rising, RisingLine, Beside };
 
 /// One load as a sketch shows it.
 struct PictureLoad {
@@ -18,7 +19,7 @@ struct PictureLoad {
     std::size_t Slot = 0;
     double Begin = 0;  // ft from R1; a load on the overhang stands beyond the span
     double End = 0;    // as Begin for a point load
-    double Total = 0;  // lb or plf; psf of a rising load
+    double Total = 0;  // lb or plf, at its most; psf of a rising load
     double Live = 0;
     bool HasPlace = true;  // false where its distances do not say where it stands
     bool OnOverhang = false;
@@ -38,6 +39,9 @@ struct LoadPicture {
 };
 
 LoadPicture ReadLoadPicture(const Session& session);
+
+/// The loads of a beam as they were calculated.
+LoadPicture PictureOfCalculated(const BeamNumbers& beam);
 
 /// The picture in words, for those who do not see it.
 std::string DescribePicture(const LoadPicture& picture);

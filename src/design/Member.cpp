@@ -40,8 +40,7 @@ constexpr std::string_view BadSclBreadth =
     "hyphen before fractions with no spaces and add a small 'x' after the breadth (example: 1-3/4x).";
 constexpr std::string_view BadSclDepth =
     "Please check Depth entry for proper format and correct beam depth for this type of members. Add a "
-    "hyphen "
-    "before fractions with no spaces (example: 11-7/8).";
+    "hyphen before fractions with no spaces (example: 11-7/8).";
 
 constexpr std::string_view BadDiameter = "Please enter a valid numeric value for the diameter in inches.";
 

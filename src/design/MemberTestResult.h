@@ -49,10 +49,18 @@ struct MemberTestResult {
     std::string_view Overall;  // empty where a member without splits is asked for
 };
 
+/// What the person said of the grading of values of their own.
+struct OwnGrading {
+    bool SoPine = false;
+    bool Mel = false;  // machine evaluated
+    bool Msr = false;  // machine stress rated
+};
+
 /// All that is known of the member tested last.
 struct MemberTest {
     MemberCandidate Candidate;
     DesignValues Values;
+    OwnGrading Grading;
     AdjustmentFactors Factors;
     StabilityResult Stability;
     AdjustedValues Adjusted;

@@ -35,13 +35,6 @@ bool AskUnder(std::string_view title, std::string_view text, UserPort& user)
     return user.Ask(question);
 }
 
-Message RiskyQuestion(std::string_view text)
-{
-    Message question = Question(text);
-    question.IsRisky = true;
-    return question;
-}
-
 bool HasNotes(const ReportNoteLines& notes)
 {
     return std::any_of(notes.begin(), notes.end(), [](const std::string& line) { return !line.empty(); });
@@ -96,6 +89,7 @@ void StartNewBeam(Session& session)
     session.Unbalanced = {};
     session.Restore = {};
     session.SteelPicks = {};
+    session.Record = {};
     session.Entry.ShapeName.clear();
 }
 

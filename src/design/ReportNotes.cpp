@@ -176,8 +176,7 @@ std::string LargeDeflectionText(const MemberTestResult& result)
 {
     if (result.IsOverProductLimit) {
         return "ALERT! Timberstrand members 7-1/4 in. and smaller are limited to 5/16 in. deflection.  "
-               "Please "
-               "increase depth.";
+               "Please increase depth.";
     }
     constexpr float alertAbove = 0.33F;  // in.
     const std::array deflections{result.TotalDeflection, result.LiveDeflection, result.OverhangDeflection,

@@ -54,6 +54,8 @@ void SelectMember(Session& session, CalendarDay today)
         SelectionRecord{.MemberChoice = TestedMemberText(session),
                         .MemberStatus = result.Overall == StatusFail ? "Fails" : std::string(result.Overall),
                         .RecordDate = ShortDate(today)};
+    session.Record.IsOfSelection = true;
+    session.Record.CanBeRefilled = true;
 }
 
 }  // namespace kordavan

@@ -10,6 +10,7 @@
 #include "core/BeamNumbers.h"
 #include "core/BeamProblem.h"
 #include "core/NdsEdition.h"
+#include "design/DataSheet.h"
 #include "design/DefaultSettings.h"
 #include "design/Member.h"
 #include "design/MemberTestResult.h"
@@ -38,12 +39,6 @@ struct UnbalancedLoads {
     PointTexts SavedLivePoint;
     PartialTexts SavedLivePartial;
 };
-
-inline constexpr std::size_t ReportNoteCount = 7;
-inline constexpr std::size_t ReportNoteLength = 85;
-
-/// Notes of the person's own for the foot of a record.
-using ReportNoteLines = std::array<std::string, ReportNoteCount>;
 
 /// What a print-out is headed with.
 struct PrintHeader {
@@ -77,6 +72,7 @@ struct Session {
     MemberEntry Entry;                         // the size boxes of the selection screen
     std::optional<SelectionRecord> Selection;  // withdrawn by every change of the entries
     ReportNoteLines NoteClipboard;
+    RecordOnShow Record;
     PrintHeader Header;
     DefaultSettings Defaults;  // as last read or saved
     bool CenterForms = false;  // forms are centred as they come to the front

@@ -119,6 +119,7 @@ void StoreTest(const SteelBeam& steel, const ShapeTest& test, Session& session)
     static_cast<CandidateLoadResult&>(session.Analysis) = test.Loads;
     static_cast<ShearResult&>(session.Analysis) = test.Shear;
     static_cast<DeflectionResult&>(session.Analysis) = test.Deflection;
+    session.Record.CanBeRefilled = false;
     session.Member = MemberOf(test, steel.Criteria);
     session.Member.Result = ResultOf(session.Analysis, session.Member);
     GiveVerdict(session.Numbers, session.Member);

@@ -212,6 +212,7 @@ void StoreTest(const MemberCandidate& member, const SizeTest& size, const Deflec
     static_cast<CandidateLoadResult&>(session.Analysis) = size.Loads;
     static_cast<ShearResult&>(session.Analysis) = size.Shear;
     static_cast<DeflectionResult&>(session.Analysis) = deflection;
+    session.Record.CanBeRefilled = false;
     session.Member.Candidate = member;
     session.Member.Values = size.Values;
     session.Member.Factors = size.Factors;
@@ -261,6 +262,9 @@ Outcome TestMember(Session& session, const MemberEntry& entry, TestOptions optio
     session.SoPineLowered = test.SoPineLowered;
     StoreTest(member, candidate, deflection, session);
     session.Member.Result.NextSmallerOk = nextSmallerOk;
+    session.Member.Grading = {.SoPine = entry.Custom.CustomIngradeSP,
+                              .Mel = entry.Custom.MELCheckbox,
+                              .Msr = entry.Custom.MSRCheckbox};
     return Outcome::Done;
 }
 

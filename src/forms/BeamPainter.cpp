@@ -2,6 +2,7 @@
 
 #include <QPalette>
 #include <algorithm>
+#include <cmath>
 
 #include "core/NumberText.h"
 #include "forms/Kit.h"
@@ -12,7 +13,11 @@ namespace {
 
 constexpr double RowShare = 0.24;       // of the room over the beam, for one row of distributed loads
 constexpr double RoofRowShare = 0.45;   // the same of a roof, which has no other loads
+constexpr double LeastRow = 2;          // lines of text, while there is room
 constexpr double RoomShare = 0.95;      // of the room over the beam, for all rows
+constexpr double HatchPitch = 0.5;      // lines of text
+constexpr double MostHatchLines = 1e4;  // more than any screen shows
+constexpr double TipGap = 3;            // between an arrow and the beam
 constexpr double LeastBarShare = 0.35;  // of a row, for the smallest load
 
 QColor Faded(QColor color)
@@ -35,12 +40,20 @@ QString FeetText(double feet)
     return Text((feet < MostShown ? FormatNumber(feet, "#0.00") : NumberText(feet)) + " ft");
 }
 
-QString LoadCaption(const PictureLoad& load)
+bool Rises(const PictureLoad& load)
+{
+    return load.Kind == PictureLoadKind::Rising || load.Kind == PictureLoadKind::RisingLine;
+}
+
+QString LoadCaption(const PictureLoad& load, LoadCaptions captions)
 {
     std::string caption(1, load.Letter);
     switch (load.Kind) {
         case PictureLoadKind::Rising:
             caption = "Roof load, psf:";
+            break;
+        case PictureLoadKind::RisingLine:
+            caption = "Rising to, plf:";
             break;
         case PictureLoadKind::Beside:
             caption = "Uniform beside it, plf:";
@@ -48,6 +61,9 @@ QString LoadCaption(const PictureLoad& load)
         case PictureLoadKind::Uniform:
         case PictureLoadKind::Point:
         case PictureLoadKind::Partial:
+            if (captions == LoadCaptions::Letters) {
+                return Text(caption);
+            }
             break;
     }
     return Text(caption + " " + NumberText(load.Total));
@@ -65,17 +81,19 @@ SketchColors::SketchColors(const QPalette& palette)
 {
 }
 
-BeamPainter::BeamPainter(QPainter& thePainter, const QRectF& wholeArea, const SketchColors& sketchColors)
+BeamPainter::BeamPainter(QPainter& thePainter, const QRectF& wholeArea, const SketchColors& sketchColors,
+                         LoadCaptions loadCaptions)
     : painter(thePainter),
       area(wholeArea),
       colors(sketchColors),
+      captions(loadCaptions),
       lineHeight(thePainter.fontMetrics().height())
 {
 }
 
 std::vector<DrawnLoad> BeamPainter::Draw(const LoadPicture& picture)
 {
-    const double side = 3.5 * lineHeight;
+    const double side = SideMargin * lineHeight;
     left = area.left() + side;
     right = area.right() - side;
     beamY = area.bottom() - 2.8 * lineHeight;
@@ -91,7 +109,16 @@ std::vector<DrawnLoad> BeamPainter::Draw(const LoadPicture& picture)
     std::vector<int> rowOf;
     for (const PictureLoad& load : picture.Loads) {
         const bool takesRow = hasSpan && load.HasPlace && load.Kind != PictureLoadKind::Point;
+        if (hasSpan && load.HasPlace && load.Kind == PictureLoadKind::Point) {
+            occupied.push_back(ShaftOf(load));
+        }
         rowOf.push_back(takesRow ? RowFor(Across(load.Begin), Across(load.End)) : 0);
+    }
+    for (std::size_t k = 0; k < picture.Loads.size(); ++k) {
+        const PictureLoad& load = picture.Loads[k];
+        if (hasSpan && load.HasPlace && load.Kind != PictureLoadKind::Point) {
+            occupied.push_back(BarOf(load, rowOf[k]));
+        }
     }
     for (std::size_t k = 0; k < picture.Loads.size(); ++k) {
         const PictureLoad& load = picture.Loads[k];
@@ -117,7 +144,8 @@ double BeamPainter::Across(double feet) const
 double BeamPainter::RowHeight() const
 {
     const double count = std::max(static_cast<double>(rows.size()), 1.0);
-    return (beamY - area.top()) * std::min(mostRowShare, RoomShare / count);
+    const double room = beamY - area.top();
+    return std::min(std::max(mostRowShare * room, LeastRow * lineHeight), RoomShare * room / count);
 }
 
 /// The lowest row in which nothing stands yet between two places.
@@ -185,30 +213,58 @@ void BeamPainter::DrawDimensions(const LoadPicture& picture)
     }
 }
 
-/// A bar, or the triangle of a load that rises from R1 to R2, the live part hatched.
-void BeamPainter::DrawDistributed(const PictureLoad& load, int row)
+QRectF BeamPainter::BarOf(const PictureLoad& load, int row) const
 {
     constexpr double gap = 3;
-    const bool isRoof = load.Kind == PictureLoadKind::Rising || load.Kind == PictureLoadKind::Beside;
+    const bool isRoof = Rises(load) || load.Kind == PictureLoadKind::Beside;
     const double share = isRoof ? 1 : load.Total / largestDistributed;  // psf and plf do not compare
     const double room = std::max(RowHeight() - lineHeight, gap);
     const double height = room * (LeastBarShare + (1 - LeastBarShare) * share);
-    const QRectF bar(Across(load.Begin), beamY - row * RowHeight() - gap - height,
-                     (load.End - load.Begin) * perFoot, height);
-    const double live = std::min(load.Live / load.Total, 1.0) * height;
+    return {Across(load.Begin), beamY - row * RowHeight() - gap - height, (load.End - load.Begin) * perFoot,
+            height};
+}
+
+/// A bar, or the triangle of a load that rises from R1 to R2, the live part hatched.
+void BeamPainter::DrawDistributed(const PictureLoad& load, int row)
+{
+    const bool rises = Rises(load);
+    const QRectF bar = BarOf(load, row);
+    const double live = std::min(load.Live / load.Total, 1.0) * bar.height();
     const auto shape = [&](double top) {
-        const bool rises = load.Kind == PictureLoadKind::Rising;
         const QPointF corner(rises ? bar.right() : bar.left(), top);
         return QPolygonF{bar.bottomLeft(), corner, {bar.right(), top}, bar.bottomRight()};
     };
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QBrush(ColorOf(load), Qt::BDiagPattern));
-    painter.drawPolygon(shape(bar.bottom() - live));
+    Hatch(shape(bar.bottom() - live), ColorOf(load));
     painter.setPen(ColorOf(load));
     painter.setBrush(TintOf(load));
     painter.drawPolygon(shape(bar.top()));
     DrawCaption(load, {bar.center().x(), bar.top()});
     Remember(bar, load);
+}
+
+/// Rising lines across a convex shape, each drawn by itself: the pattern of a brush is lost in line drawings.
+void BeamPainter::Hatch(const QPolygonF& shape, const QColor& color)
+{
+    const auto sumOf = [](QPointF point) { return point.x() + point.y(); };  // the same all along a line
+    const auto [least, most] = std::minmax_element(shape.begin(), shape.end(),
+                                                   [&](QPointF a, QPointF b) { return sumOf(a) < sumOf(b); });
+    const double pitch = HatchPitch * lineHeight;
+    const double first = std::ceil(sumOf(*least) / pitch) * pitch;
+    const double count = std::min((sumOf(*most) - first) / pitch, MostHatchLines);
+    painter.setPen(QPen(color, 1));
+    for (int number = 0; number < count; ++number) {
+        const double sum = first + number * pitch;
+        QPolygonF ends;
+        for (qsizetype k = 0; k < shape.size(); ++k) {
+            const QPointF from = shape[k];
+            const QPointF to = shape[(k + 1) % shape.size()];
+            const double share = (sum - sumOf(from)) / (sumOf(to) - sumOf(from));
+            if (share >= 0 && share < 1) {
+                ends.append(from + share * (to - from));
+            }
+        }
+        painter.drawPolyline(ends);
+    }
 }
 
 /// The uniform load of equal moment that stands for the rising one.
@@ -223,61 +279,78 @@ void BeamPainter::DrawEquivalent(const LoadPicture& picture)
 
 void BeamPainter::DrawPoint(const PictureLoad& load)
 {
-    const double room = beamY - area.top() - 1.3 * lineHeight;
-    const double share = 0.5 + 0.5 * load.Total / largestPoint;
-    const double top = beamY - room * share;
-    const double x = Across(load.Begin);
-    const double tip = beamY - 3;
-    const double half = lineHeight * 0.2;
-    const double shaftEnd = tip - 2.5 * half;
-    const double live = std::min(load.Live / load.Total, 1.0) * (shaftEnd - top);
-    const QRectF shaft(x - half, top, 2 * half, shaftEnd - top);
+    const QRectF shaft = ShaftOf(load);
+    const double x = shaft.center().x();
+    const double tip = beamY - TipGap;
+    const double live = std::min(load.Live / load.Total, 1.0) * shaft.height();
     painter.fillRect(shaft, TintOf(load));
-    painter.fillRect(QRectF(shaft.left(), shaftEnd - live, shaft.width(), live),
-                     QBrush(ColorOf(load), Qt::BDiagPattern));
+    Hatch(QPolygonF(shaft.adjusted(0, shaft.height() - live, 0, 0)), ColorOf(load));
     painter.setPen(ColorOf(load));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(shaft);
     painter.setBrush(ColorOf(load));
-    painter.drawPolygon(QPolygonF{{x, tip}, {x - 2 * half, shaftEnd}, {x + 2 * half, shaftEnd}});
-    DrawCaption(load, {x, top});
-    Remember(QRectF(x - 5, top, 10, tip - top), load);
+    painter.drawPolygon(
+        QPolygonF{{x, tip}, {x - shaft.width(), shaft.bottom()}, {x + shaft.width(), shaft.bottom()}});
+    DrawCaption(load, {x, shaft.top()});
+    Remember(QRectF(x - 5, shaft.top(), 10, tip - shaft.top()), load);
+}
+
+/// The arrow of a point load without its head.
+QRectF BeamPainter::ShaftOf(const PictureLoad& load) const
+{
+    const double room = beamY - area.top() - 1.3 * lineHeight;
+    const double share = 0.5 + 0.5 * load.Total / largestPoint;
+    const double width = 0.4 * lineHeight;
+    const double headLength = 1.25 * width;
+    const double height = room * share - TipGap - headLength;
+    return {Across(load.Begin) - width / 2, beamY - room * share, width, height};
 }
 
 void BeamPainter::DrawUnplaced(const PictureLoad& load)
 {
     const double y = area.top() + lineHeight * unplacedCount++;
-    const QString caption = QStringLiteral("%1 where?").arg(LoadCaption(load));
+    const QString caption = QStringLiteral("%1 where?").arg(LoadCaption(load, captions));
     const QRectF where(area.left() + 4, y, painter.fontMetrics().horizontalAdvance(caption) + 4, lineHeight);
     painter.setPen(colors.Faint);
     painter.drawText(where, Qt::AlignLeft | Qt::AlignVCenter, caption);
     Remember(where, load);
 }
 
-/// Captions give way to those already drawn: sideways, or by a line upwards, to the nearest free place.
 void BeamPainter::DrawCaption(const PictureLoad& load, QPointF at)
 {
-    const QString caption = LoadCaption(load);
+    const QString caption = LoadCaption(load, captions);
     const double width = painter.fontMetrics().horizontalAdvance(caption) + 6;
-    const QRectF middle(at.x() - width / 2, at.y() - lineHeight, width, lineHeight);
-    const auto isFree = [&](const QRectF& where) {
-        const bool isInside =
-            where.top() >= area.top() && where.left() >= area.left() && where.right() <= area.right();
-        return isInside && std::none_of(captions.begin(), captions.end(),
-                                        [&where](const QRectF& other) { return other.intersects(where); });
-    };
-    QRectF where = middle;
-    for (const QPointF& shift :
-         {QPointF(0, 0), QPointF(width / 2, 0), QPointF(-width / 2, 0), QPointF(0, -lineHeight),
-          QPointF(width, 0), QPointF(-width, 0), QPointF(0, -2 * lineHeight)}) {
-        if (isFree(middle.translated(shift))) {
-            where = middle.translated(shift);
-            break;
-        }
-    }
-    captions.push_back(where);
+    const QRectF where = FreePlace({at.x() - width / 2, at.y() - lineHeight, width, lineHeight});
+    occupied.push_back(where);
     painter.setPen(load.OnOverhang ? ColorOf(load) : colors.Text);
     painter.drawText(where, Qt::AlignCenter, caption);
+}
+
+bool BeamPainter::IsFree(const QRectF& where) const
+{
+    const bool isInside =
+        where.top() >= area.top() && where.left() >= area.left() && where.right() <= area.right();
+    return isInside && std::none_of(occupied.begin(), occupied.end(),
+                                    [&where](const QRectF& other) { return other.intersects(where); });
+}
+
+/// Captions give way to arrows, bars and those already drawn: sideways, or by lines upwards, to the nearest
+/// free place.
+QRectF BeamPainter::FreePlace(const QRectF& wanted) const
+{
+    constexpr int mostLines = 4;
+    constexpr int mostSteps = 4;  // of half a caption
+    for (int up = 0; up <= mostLines; ++up) {
+        for (int step = 0; step <= mostSteps; ++step) {
+            for (const double side : {0.5, -0.5}) {
+                const QRectF place = wanted.translated(side * step * wanted.width(), -up * lineHeight);
+                if (IsFree(place)) {
+                    return place;
+                }
+            }
+        }
+    }
+    return wanted;
 }
 
 QColor BeamPainter::ColorOf(const PictureLoad& load) const

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPolygonF>
 #include <QRectF>
 #include <QString>
 #include <vector>
@@ -28,6 +29,9 @@ struct DrawnLoad {
     PictureLoad Load;
 };
 
+/// What a sketch writes beside a load.
+enum class LoadCaptions { LettersAndSizes, Letters };
+
 /// Draws a beam with its supports and loads into a rectangle.
 ///
 /// Distributed loads stand in rows over the beam, as high as their size asks beside the largest; point loads
@@ -35,7 +39,11 @@ struct DrawnLoad {
 /// edge.
 class BeamPainter {
 public:
-    BeamPainter(QPainter& painter, const QRectF& area, const SketchColors& colors);
+    /// Beside the drawn beam, in heights of a line of text.
+    static constexpr double SideMargin = 3.5;
+
+    BeamPainter(QPainter& painter, const QRectF& area, const SketchColors& colors,
+                LoadCaptions captions = LoadCaptions::LettersAndSizes);
 
     std::vector<DrawnLoad> Draw(const LoadPicture& picture);
 
@@ -47,11 +55,16 @@ private:
     void DrawBeam(const LoadPicture& picture);
     void DrawSupport(double x, int number);
     void DrawDimensions(const LoadPicture& picture);
+    QRectF BarOf(const PictureLoad& load, int row) const;
     void DrawDistributed(const PictureLoad& load, int row);
+    void Hatch(const QPolygonF& shape, const QColor& color);
     void DrawEquivalent(const LoadPicture& picture);
     void DrawPoint(const PictureLoad& load);
+    QRectF ShaftOf(const PictureLoad& load) const;
     void DrawUnplaced(const PictureLoad& load);
     void DrawCaption(const PictureLoad& load, QPointF at);
+    bool IsFree(const QRectF& where) const;
+    QRectF FreePlace(const QRectF& wanted) const;
     QColor ColorOf(const PictureLoad& load) const;
     QColor TintOf(const PictureLoad& load) const;
     void Remember(const QRectF& where, const PictureLoad& load);
@@ -59,6 +72,7 @@ private:
     QPainter& painter;
     QRectF area;
     const SketchColors& colors;
+    LoadCaptions captions;
     double lineHeight;
     double left = 0;
     double right = 0;
@@ -69,7 +83,7 @@ private:
     double largestPoint = 0;
     int unplacedCount = 0;
     std::vector<std::vector<std::pair<double, double>>> rows;
-    std::vector<QRectF> captions;
+    std::vector<QRectF> occupied;  // by arrows, bars and captions
     std::vector<DrawnLoad> drawn;
 };
 

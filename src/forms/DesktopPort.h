@@ -6,7 +6,11 @@
 #include "design/SelectionRecord.h"
 #include "records/FileDialogs.h"
 
+class QImage;
+
 namespace kordavan {
+
+class PrinterPort;
 
 /// What the forms need of the desk besides the person: clock, shell and files.
 class DesktopPort {
@@ -24,6 +28,10 @@ public:
     /// The file that the person chooses; none when cancelled.
     virtual std::optional<std::string> AskOpenFile(const FileDialogText& text) = 0;
     virtual std::optional<std::string> AskSaveFile(const FileDialogText& text) = 0;
+
+    virtual PrinterPort& Printers() = 0;
+    /// Puts a picture and what it says in words on the clipboard.
+    virtual void CopyPicture(const QImage& picture, const std::string& words) = 0;
 
     /// Where the files of fixed name lie.
     virtual std::string FixedFilesFolder() = 0;

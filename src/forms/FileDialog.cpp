@@ -26,6 +26,15 @@ QStringList FiltersOf(const FileDialogText& text)
     return filters;
 }
 
+/// A name without an extension takes that of the filter, where it has one: "Pictures (*.png)".
+void FollowFilter(QFileDialog& dialog, const QString& filter)
+{
+    const QString suffix = filter.section(QLatin1String("(*."), 1).chopped(1);
+    if (!dialog.defaultSuffix().isEmpty() && !suffix.isEmpty() && !suffix.contains(QLatin1Char('*'))) {
+        dialog.setDefaultSuffix(suffix);
+    }
+}
+
 std::optional<std::string> Run(const FileDialogText& text, QFileDialog::AcceptMode mode)
 {
     QFileDialog dialog(QApplication::activeWindow(), Text(text.Title));
@@ -35,6 +44,8 @@ std::optional<std::string> Run(const FileDialogText& text, QFileDialog::AcceptMo
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(text.SelectedFilter - 1));
     dialog.setDefaultSuffix(Text(text.DefaultExtension));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString& filter) { FollowFilter(dialog, filter); });
     dialog.selectFile(Text(text.FileName));
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
         const QString file = dialog.selectedFiles().constFirst();

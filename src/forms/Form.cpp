@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -23,7 +24,6 @@ Form::Form(Walk& theWalk, std::string_view name)
       foot(new QHBoxLayout(footArea))
 {
     setObjectName(Text(name));
-    setAttribute(Qt::WA_KeyboardFocusChange);  // the focus is seen before the first Tab too
     auto* const contents = new QWidget;
     contents->setLayout(body);
     scroll->setWidget(contents);
@@ -120,6 +120,13 @@ void Form::AddToolsMenu()
         [this] { currentWalk.ShowBeside(Screen::Notes); }, QKeySequence(Qt::CTRL | Qt::Key_T));
 }
 
+QAction& Form::AddDiagramCommand(QMenu& goTo)
+{
+    return AddCommand(
+        goTo, {"MnuDiagram", "Shear, moment and deflection of the beam as calculated"}, "&Load Diagram",
+        [this] { currentWalk.ShowBeside(Screen::LoadDiagram); }, QKeySequence(Qt::Key_F8));
+}
+
 HelpButton* Form::MakeHelp(const HelpText& help, std::initializer_list<std::string_view> boxes)
 {
     auto* const button = new HelpButton(help.Button, help.Topic, boxes);
@@ -161,6 +168,13 @@ void Form::CloseAsked()
     currentWalk.AskToExit();
 }
 
+/// The focus is seen before the first Tab too.
+void Form::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 void Form::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
@@ -177,6 +191,12 @@ void Form::keyPressEvent(QKeyEvent* event)
                 return;
             }
             break;
+        case Qt::Key_PageUp:
+            scroll->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepSub);
+            return;
+        case Qt::Key_PageDown:
+            scroll->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+            return;
         default:
             break;
     }

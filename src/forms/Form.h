@@ -31,6 +31,9 @@ public:
     /// Called by the walk each time the form comes to the front.
     virtual void Activate() {}
 
+    /// Called by the walk while the notes beside the form are typed.
+    virtual void ShowNotes() {}
+
     /// Puts the caret where a message points to, and scrolls there.
     void FocusOn(std::string_view control);
 
@@ -60,6 +63,9 @@ protected:
     /// The tools that stand beside every form of the walk.
     void AddToolsMenu();
 
+    /// The command that shows the load diagram beside the form.
+    QAction& AddDiagramCommand(QMenu& goTo);
+
     /// Tells a text of the program's own help.
     void TellHelp(std::string_view text);
 
@@ -77,6 +83,7 @@ protected:
 
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void PressDefault();

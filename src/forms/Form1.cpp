@@ -215,6 +215,10 @@ void Form1::MakeMenus()
     QMenu& options = AddMenu("&Options");
     AddCommand(options, {"MnuDefaults", "Edition, print header, load pairs and other standing choices"},
                "Set &Defaults", [this] { TheWalk().Go(Screen::Settings); });
+    QMenu& goTo = AddMenu("&Go to");
+    dataRecord = &AddCommand(goTo, {"MnuDataRecord", "The Data Record of the member on record"},
+                             "&Data Record", [this] { TheWalk().Go(Screen::Record); });
+    diagram = &AddDiagramCommand(goTo);
     AddToolsMenu();
     AddHelpMenu(Page);
 }
@@ -305,6 +309,8 @@ void Form1::Refresh()
     tables->setCurrentIndex(static_cast<int>(screen.Tables));
     sketch->Show(ReadLoadPicture(session));
     resultLine->setText(Text(screen.SavePanel));
+    dataRecord->setEnabled(screen.HasRecord);
+    diagram->setEnabled(TheWalk().AnalysisCount > 0);
     calculate->setDefault(!screen.MustCalculateHipLoad);
 }
 
@@ -317,6 +323,7 @@ void Form1::StartNew()
 {
     if (OfferNewBeam(TheSession(), User()) == Outcome::Done) {
         partialCalculator->PutAway();
+        TheWalk().RefreshBeside(Screen::Notes);
         Refresh();
         FocusOn("Proj");
     }
@@ -385,6 +392,7 @@ void Form1::Calculate()
     try {
         if (CalculateAction(TheSession(), User(), progress) == Outcome::Done) {
             ++TheWalk().AnalysisCount;
+            TheWalk().PutAway(Screen::LoadDiagram);
             OpenSelection();
         } else {
             Refresh();

@@ -85,6 +85,8 @@ private:
     QLabel* resultLine = nullptr;
     QPushButton* calculate = nullptr;
     Form4* gauge = nullptr;
+    QAction* dataRecord = nullptr;
+    QAction* diagram = nullptr;
     std::array<QAction*, MostRecentFiles> recentFiles{};
 };
 

@@ -24,10 +24,9 @@ constexpr std::string_view Page =
     "Composite lumber: choose the product and enter the design values that its maker publishes. Save keeps "
     "them for this product; Load brings them back.\n\n"
     "Custom wood: choose Rectangular and a family of breadths, or Round and a diameter; then enter the "
-    "values "
-    "and what the record shall call the member. Save Values keeps them under a name.\n\n"
-    "Enter Values takes the values and shows, for each breadth, the smallest depth that passes. Pick one, or "
-    "type any breadth and depth, and press Enter or OK Test. Esc leads back to the criteria.";
+    "values and what the record shall call the member. Save Values keeps them under a name.\n\n"
+    "Enter Values takes the values and shows, for each breadth, the smallest depth that passes. Pick one, "
+    "or type any breadth and depth, and press Enter or OK Test. Esc leads back to the criteria.";
 
 constexpr int SizeDigits = 12;
 
@@ -41,7 +40,7 @@ CustomEntry WithoutDiameter(CustomEntry custom)
 }  // namespace
 
 Form2::Form2(Walk& walk)
-    : Form(walk, "Form2"),
+    : SelectionForm(walk, "Form2"),
       numbers{.User = walk.User(), .CalculatorText = [&walk] { return walk.CalculatorText(); }},
       context{.Owner = *this,
               .Boxes = bindings,
@@ -65,9 +64,8 @@ Form2::Form2(Walk& walk)
 
 void Form2::Activate()
 {
-    const bool isNewAnalysis = analysisShown != TheWalk().AnalysisCount;
+    const bool isNewAnalysis = TakeNewAnalysis();
     if (isNewAnalysis) {
-        analysisShown = TheWalk().AnalysisCount;
         StartOver();
     }
     ShowHeader();
@@ -82,26 +80,10 @@ QAbstractButton* Form2::DefaultCommand()
     return AreValuesEntered() ? test : &values->EnterCommand();
 }
 
-void Form2::GoBack()
-{
-    TheWalk().Go(Screen::Criteria);
-}
-
 void Form2::BuildHeader()
 {
     valuesInUse = MakePanel("LabelINGRADE");
-    moment = MakeNamedLabel("MOMENT");
-    firstReaction = MakeNamedLabel("Reac1");
-    secondReaction = MakeNamedLabel("Reac2");
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(DigitsWidth(*this, 4));
-    line->addWidget(valuesInUse, 1);
-    for (QLabel* const load : {moment, firstReaction, secondReaction}) {
-        load->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        line->addWidget(load);
-    }
-    Body().addLayout(line);
-    Body().addWidget(MakeRule());
+    SelectionForm::BuildHeader({valuesInUse}, {"MOMENT", "Reac1", "Reac2"});
 }
 
 void Form2::BuildGroups()
@@ -168,12 +150,7 @@ void Form2::BuildMenus()
     AddCommand(file, {"MnuSaveCustom", "Saves the values of custom wood under a name"}, "&Save Values...",
                [this] { SaveFile(); });
     AddExitCommand(file);
-    QMenu& goTo = AddMenu("&Go to");
-    AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
-    AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
-               [this] { TheWalk().Go(Screen::Criteria); });
-    AddToolsMenu();
-    AddHelpMenu(Page);
+    BuildOtherMenus(Page);
 }
 
 void Form2::OrderTabs()
@@ -230,9 +207,7 @@ void Form2::ShowHeader()
 {
     const SelectionTexts texts = MakeSelectionTexts(TheSession());
     valuesInUse->setText(Text(texts.LabelINGRADE));
-    moment->setText(Text(texts.MOMENT));
-    firstReaction->setText(Text(texts.Reac1));
-    secondReaction->setText(Text(texts.Reac2));
+    ShowLoads(texts.MOMENT, texts.Reac1, texts.Reac2);
     panel->setText(Text(texts.WoodStatisPanel));
 }
 

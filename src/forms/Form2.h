@@ -7,7 +7,7 @@
 #include "design/OwnSelection.h"
 #include "forms/Bindings.h"
 #include "forms/EntryGroup.h"
-#include "forms/Form.h"
+#include "forms/SelectionForm.h"
 
 class QLabel;
 class QPushButton;
@@ -20,7 +20,7 @@ class OwnSectionGroup;
 class OwnValuesGroup;
 
 /// The selection of a member of the user's own values: composite lumber or custom wood.
-class Form2 : public Form {
+class Form2 : public SelectionForm {
     Q_OBJECT
 
 public:
@@ -31,7 +31,6 @@ public:
 
 protected:
     QAbstractButton* DefaultCommand() override;
-    void GoBack() override;
 
 private:
     void BuildHeader();
@@ -64,7 +63,6 @@ private:
     NumericBoxContext numbers;
     GroupContext context;
     std::vector<QuickPick> picks;
-    int analysisShown = 0;
 
     /// What the picks were found for; a diameter aside.
     struct EnteredValues {
@@ -74,9 +72,6 @@ private:
     std::optional<EnteredValues> entered;
 
     QLabel* valuesInUse = nullptr;
-    QLabel* moment = nullptr;
-    QLabel* firstReaction = nullptr;
-    QLabel* secondReaction = nullptr;
     OwnSectionGroup* section = nullptr;
     OwnValuesGroup* values = nullptr;
     OwnPickRow* pickRow = nullptr;

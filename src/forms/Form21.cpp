@@ -41,6 +41,7 @@ Form21::Form21(Walk& theWalk) : BesideForm(theWalk, "Form21")
     AddCommands();
     AddHelpMenu(PageText);
     boxes.Show();
+    connect(&boxes, &Bindings::Edited, this, [this] { TheWalk().ShowNotes(); });
     lines.front().Box->setFocus();
 }
 

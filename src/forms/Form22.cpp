@@ -65,7 +65,7 @@ RatioBar* AddBar(QGridLayout& grid, std::string_view array, std::size_t index, i
 
 }  // namespace
 
-Form22::Form22(Walk& theWalk) : Form(theWalk, "Form22")
+Form22::Form22(Walk& theWalk) : SelectionForm(theWalk, "Form22")
 {
     setWindowTitle(QStringLiteral(" Kordavan Steel Selection Form 2"));
     BuildHeader();
@@ -83,8 +83,7 @@ void Form22::Activate()
     ShowTexts();
     boxes.Show();
     ShowPage();
-    if (analysisShown != TheWalk().AnalysisCount) {
-        analysisShown = TheWalk().AnalysisCount;
+    if (TakeNewAnalysis()) {
         FocusOnStart();
     }
 }
@@ -94,30 +93,13 @@ QAbstractButton* Form22::DefaultCommand()
     return okButton;
 }
 
-void Form22::GoBack()
-{
-    TheWalk().Go(Screen::Criteria);
-}
-
 void Form22::BuildHeader()
 {
     family = MakeHeading("");
     family->setObjectName(QStringLiteral("Label6"));
     bracing = MakePanel("StlPanel");
     bracing->setText(Text(SteelScreenTexts::Testing));
-    moment = MakeNamedLabel("StlMoment");
-    firstReaction = MakeNamedLabel("StlReac1");
-    secondReaction = MakeNamedLabel("StlReac2");
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(DigitsWidth(*this, 4));
-    line->addWidget(family);
-    line->addWidget(bracing, 1);
-    for (QLabel* const load : {moment, firstReaction, secondReaction}) {
-        load->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        line->addWidget(load);
-    }
-    Body().addLayout(line);
-    Body().addWidget(MakeRule());
+    SelectionForm::BuildHeader({family, bracing}, {"StlMoment", "StlReac1", "StlReac2"});
 }
 
 void Form22::BuildCandidates()
@@ -223,12 +205,7 @@ void Form22::BuildFoot()
 void Form22::BuildMenus()
 {
     AddExitCommand(AddMenu("&File"));
-    QMenu& goTo = AddMenu("&Go to");
-    AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
-    AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
-               [this] { TheWalk().Go(Screen::Criteria); });
-    AddToolsMenu();
-    AddHelpMenu(Page);
+    BuildOtherMenus(Page);
 }
 
 void Form22::ShowTexts()
@@ -236,9 +213,7 @@ void Form22::ShowTexts()
     const SteelSelectionTexts texts = MakeSteelSelectionTexts(TheSession());
     family->setText(Text(texts.Label6));
     bracing->setText(Text(texts.StlPanel));
-    moment->setText(Text(texts.StlMoment));
-    firstReaction->setText(Text(texts.StlReac1));
-    secondReaction->setText(Text(texts.StlReac2));
+    ShowLoads(texts.StlMoment, texts.StlReac1, texts.StlReac2);
     parts->setText(Text(texts.Label4));
     example->setText(Text(texts.StlFormatLabel));
     status->setText(Text(texts.StlStatis));

@@ -4,7 +4,7 @@
 
 #include "design/SteelSelection.h"
 #include "forms/Bindings.h"
-#include "forms/Form.h"
+#include "forms/SelectionForm.h"
 
 class QGridLayout;
 class QLabel;
@@ -16,7 +16,7 @@ namespace kordavan {
 class RatioBar;
 
 /// The selection of a steel shape: up to sixteen candidates on two pages, and a box for any size.
-class Form22 : public Form {
+class Form22 : public SelectionForm {
     Q_OBJECT
 
 public:
@@ -26,7 +26,6 @@ public:
 
 protected:
     QAbstractButton* DefaultCommand() override;
-    void GoBack() override;
 
 private:
     /// The controls of a candidate.
@@ -61,10 +60,6 @@ private:
     void OnCmdOK();
 
     Bindings boxes;
-    int analysisShown = 0;
-    QLabel* moment = nullptr;
-    QLabel* firstReaction = nullptr;
-    QLabel* secondReaction = nullptr;
     QLabel* family = nullptr;
     QLabel* bracing = nullptr;
     std::array<Line, SteelPageLines> lines{};

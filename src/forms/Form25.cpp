@@ -62,8 +62,7 @@ static_assert(KeyCaps.size() % KeysInRow == 0);
 constexpr std::string_view PageText =
     "CALCULATOR\n\n"
     "Works on screen or from the keyboard; operations are taken in the order they are pressed. Insert, or "
-    "the "
-    "Insert key, puts the value into the box that you were in last.\n\n"
+    "the Insert key, puts the value into the box that you were in last.\n\n"
     "FEET AND INCHES\n"
     "Type a length as drawings write it, and it becomes feet and decimals with the next operation:\n"
     "13' 3-1/2\"  is  13.2917\n"

@@ -27,7 +27,7 @@ constexpr int SpeciesDigits = 28;
 
 }  // namespace
 
-Form3::Form3(Walk& theWalk) : Form(theWalk, "Form3"), picks(QuickPickCells(TheSession().Numbers))
+Form3::Form3(Walk& theWalk) : SelectionForm(theWalk, "Form3"), picks(QuickPickCells(TheSession().Numbers))
 {
     setWindowTitle(QStringLiteral(" Kordavan Selection Form 2"));
     BuildHeader();
@@ -42,7 +42,7 @@ Form3::Form3(Walk& theWalk) : Form(theWalk, "Form3"), picks(QuickPickCells(TheSe
 
 void Form3::Activate()
 {
-    const bool isNewAnalysis = analysisShown != TheWalk().AnalysisCount;
+    const bool isNewAnalysis = TakeNewAnalysis();
     if (isNewAnalysis) {
         StartOver();
     }
@@ -59,28 +59,11 @@ QAbstractButton* Form3::DefaultCommand()
     return okButton;
 }
 
-void Form3::GoBack()
-{
-    TheWalk().Go(Screen::Criteria);
-}
-
 void Form3::BuildHeader()
 {
     valuesInUse = MakePanel("LabelINGRADE");
-    moment = MakeNamedLabel("MOMENT");
-    firstReaction = MakeNamedLabel("Reac1");
-    secondReaction = MakeNamedLabel("Reac2");
-    auto* const line = new QHBoxLayout;
-    line->setSpacing(DigitsWidth(*this, 4));
-    line->addWidget(valuesInUse, 1);
-    line->addWidget(MakeHeading("Quick picks: smallest depth that passes"));
-    line->addStretch(1);
-    for (QLabel* const load : {moment, firstReaction, secondReaction}) {
-        load->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        line->addWidget(load);
-    }
-    Body().addLayout(line);
-    Body().addWidget(MakeRule());
+    SelectionForm::BuildHeader({valuesInUse, MakeHeading("Quick picks: smallest depth that passes")},
+                               {"MOMENT", "Reac1", "Reac2"});
 }
 
 void Form3::BuildPicks()
@@ -131,12 +114,7 @@ void Form3::BuildMenus()
 {
     QMenu& file = AddMenu("&File");
     AddExitCommand(file);
-    QMenu& goTo = AddMenu("&Go to");
-    AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });
-    AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
-               [this] { TheWalk().Go(Screen::Criteria); });
-    AddToolsMenu();
-    AddHelpMenu(Page);
+    BuildOtherMenus(Page);
 }
 
 void Form3::StartOver()
@@ -145,16 +123,13 @@ void Form3::StartOver()
     panel->repaint();
     picks = StartSelection(TheSession(), User());
     table->Show(picks, TheSession().Numbers);
-    analysisShown = TheWalk().AnalysisCount;
 }
 
 void Form3::ShowTexts()
 {
     const SelectionTexts texts = MakeSelectionTexts(TheSession());
     valuesInUse->setText(Text(texts.LabelINGRADE));
-    moment->setText(Text(texts.MOMENT));
-    firstReaction->setText(Text(texts.Reac1));
-    secondReaction->setText(Text(texts.Reac2));
+    ShowLoads(texts.MOMENT, texts.Reac1, texts.Reac2);
     panel->setText(Text(texts.WoodStatisPanel));
     table->ShowTexts(texts);
 }

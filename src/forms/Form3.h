@@ -2,7 +2,7 @@
 
 #include "design/Selection.h"
 #include "forms/Bindings.h"
-#include "forms/Form.h"
+#include "forms/SelectionForm.h"
 
 class QGridLayout;
 class QLabel;
@@ -14,7 +14,7 @@ class ChoiceBox;
 class PickTable;
 
 /// The selection of a sawn member or glulam: quick picks, and boxes for the size to test.
-class Form3 : public Form {
+class Form3 : public SelectionForm {
     Q_OBJECT
 
 public:
@@ -25,7 +25,6 @@ public:
 
 protected:
     QAbstractButton* DefaultCommand() override;
-    void GoBack() override;
 
 private:
     void BuildHeader();
@@ -42,11 +41,7 @@ private:
 
     Bindings boxes;
     QuickPicks picks;
-    int analysisShown = 0;
     QLabel* valuesInUse = nullptr;
-    QLabel* moment = nullptr;
-    QLabel* firstReaction = nullptr;
-    QLabel* secondReaction = nullptr;
     PickTable* table = nullptr;
     ChoiceBox* breadth = nullptr;
     ChoiceBox* depth = nullptr;

@@ -184,7 +184,8 @@ void Form5::BuildFoot()
     QPushButton* const notesButton =
         MakeButton({.Name = "Command1", .Tip = "Notes for the foot of the record"}, " Add &Notes");
     selectButton =
-        MakeButton({.Name = "Command2", .Tip = "Puts this member on record"}, "OK  &Select Member");
+        MakeButton({.Name = "Command2", .Tip = "Puts this member on record and shows its Data Record"},
+                   "OK  &Select Member");
     selectButton->setDefault(true);
     connect(notesButton, &QPushButton::clicked, this, [this] { TheWalk().ShowBeside(Screen::Notes); });
     connect(selectButton, &QPushButton::clicked, this, &Form5::OnSelectMember);
@@ -203,6 +204,9 @@ void Form5::BuildMenus()
     AddCommand(goTo, {"MnuBack", "Back to the selection (Esc)"}, "&Selection Form 2", [this] { GoBack(); });
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
+    AddCommand(goTo, {"MnuDataRecord", "Puts this member on record and shows its Data Record"},
+               "&Data Record", [this] { OnSelectMember(); });
+    AddDiagramCommand(goTo);
     AddToolsMenu();
     AddHelpMenu(Page);
     QAction* const back = menuBar()->addAction(QStringLiteral("&Back"));
@@ -224,6 +228,7 @@ void Form5::ShowReport()
     }
     ShowOverall();
     stepping->Show(TheSession(), *selectButton);
+    TheWalk().RefreshBeside(Screen::LoadDiagram);
 }
 
 void Form5::ShowOverall()
@@ -260,6 +265,7 @@ void Form5::OnShapeStep(SteelStep step)
 void Form5::OnNewBeam()
 {
     if (OfferNewBeamAfterReport(TheSession(), User()) == Outcome::Done) {
+        TheWalk().RefreshBeside(Screen::Notes);
         TheWalk().Go(Screen::Criteria);
         TheWalk().Front()->FocusOn("Proj");
     }
@@ -268,7 +274,7 @@ void Form5::OnNewBeam()
 void Form5::OnSelectMember()
 {
     SelectMember(TheSession(), TheWalk().Desktop().Today());
-    TheWalk().Go(Screen::Criteria);
+    TheWalk().Go(Screen::Record);
 }
 
 }  // namespace kordavan

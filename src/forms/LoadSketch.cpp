@@ -21,6 +21,7 @@ QString BoxOf(const PictureLoad& load)
         case PictureLoadKind::Partial:
             return ArrayName("PAR", load.Slot);
         case PictureLoadKind::Rising:
+        case PictureLoadKind::RisingLine:
             return QStringLiteral("IncTL");
         case PictureLoadKind::Beside:
             return QStringLiteral("IncUnifTL");

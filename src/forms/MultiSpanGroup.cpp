@@ -17,8 +17,7 @@ enum Line { TextLine, OptionLine, NoteLine, LineCount };
 
 constexpr std::string_view HowToEnter =
     "All spans are EQUAL in length with a continuous uniform load. Enter load magnitude at  'Uniform Load' "
-    "at "
-    "left. Enter ONE SPAN length under 'BeamSpan in feet' above.";
+    "at left. Enter ONE SPAN length under 'BeamSpan in feet' above.";
 
 }  // namespace
 

@@ -1,9 +1,13 @@
 #include "forms/QtDesktop.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDate>
 #include <QDesktopServices>
 #include <QDir>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMimeData>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -49,6 +53,14 @@ std::optional<std::string> QtDesktop::AskOpenFile(const FileDialogText& text)
 std::optional<std::string> QtDesktop::AskSaveFile(const FileDialogText& text)
 {
     return AskFileToSave(text);
+}
+
+void QtDesktop::CopyPicture(const QImage& picture, const std::string& words)
+{
+    auto* const contents = new QMimeData;
+    contents->setImageData(picture);
+    contents->setText(Text(words));
+    QGuiApplication::clipboard()->setMimeData(contents);
 }
 
 std::string QtDesktop::FixedFilesFolder()

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 
 #include "forms/DesktopPort.h"
+#include "forms/QtPrinters.h"
 
 namespace kordavan {
 
@@ -17,10 +18,13 @@ public:
     void EndProgram() override;
     std::optional<std::string> AskOpenFile(const FileDialogText& text) override;
     std::optional<std::string> AskSaveFile(const FileDialogText& text) override;
+    PrinterPort& Printers() override { return printers; }
+    void CopyPicture(const QImage& picture, const std::string& words) override;
     std::string FixedFilesFolder() override;
 
 private:
     QElapsedTimer sinceStart;
+    QtPrinters printers;
 };
 
 }  // namespace kordavan

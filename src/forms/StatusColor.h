@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QColor>
+#include <QPalette>
 
 class QLabel;
-class QPalette;
 
 namespace kordavan {
 
@@ -12,6 +12,9 @@ QColor FailColor(const QPalette& palette);
 
 /// The amber of an alert.
 QColor AlertColor(const QPalette& palette);
+
+/// The palette of pictures on white paper.
+QPalette PaperPalette();
 
 /// Writes a label bold in the colour of a failed check, or like any other label.
 void PaintStatus(QLabel& label, bool fails);

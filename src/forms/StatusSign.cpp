@@ -39,6 +39,30 @@ void DrawAlert(QPainter& painter, const QColor& color)
 
 }  // namespace
 
+void PaintSign(QPainter& painter, const QRectF& square, Sign sign, const QColor& color)
+{
+    constexpr double stroke = 0.14;
+    painter.save();
+    painter.translate(square.topLeft());
+    painter.scale(square.width(), square.height());
+    painter.setPen(PenOf(color, stroke));
+    switch (sign) {
+        case Sign::Passes:
+            painter.drawPolyline(QPolygonF{{0.14, 0.56}, {0.4, 0.82}, {0.88, 0.2}});
+            break;
+        case Sign::Fails:
+            painter.drawLine(QPointF(0.18, 0.18), QPointF(0.82, 0.82));
+            painter.drawLine(QPointF(0.82, 0.18), QPointF(0.18, 0.82));
+            break;
+        case Sign::Alert:
+            DrawAlert(painter, color);
+            break;
+        case Sign::None:
+            break;
+    }
+    painter.restore();
+}
+
 StatusSign::StatusSign(const QString& name, Sign sign)
 {
     setObjectName(name);
@@ -61,26 +85,15 @@ QSize StatusSign::sizeHint() const
 
 void StatusSign::paintEvent(QPaintEvent* /*event*/)
 {
-    constexpr double stroke = 0.14;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(width(), height());
-    switch (shown) {
-        case Sign::Passes:
-            painter.setPen(PenOf(palette().color(QPalette::WindowText), stroke));
-            painter.drawPolyline(QPolygonF{{0.14, 0.56}, {0.4, 0.82}, {0.88, 0.2}});
-            break;
-        case Sign::Fails:
-            painter.setPen(PenOf(FailColor(palette()), stroke));
-            painter.drawLine(QPointF(0.18, 0.18), QPointF(0.82, 0.82));
-            painter.drawLine(QPointF(0.82, 0.18), QPointF(0.18, 0.82));
-            break;
-        case Sign::Alert:
-            DrawAlert(painter, AlertColor(palette()));
-            break;
-        case Sign::None:
-            break;
+    QColor color = palette().color(QPalette::WindowText);
+    if (shown == Sign::Fails) {
+        color = FailColor(palette());
+    } else if (shown == Sign::Alert) {
+        color = AlertColor(palette());
     }
+    PaintSign(painter, rect(), shown, color);
 }
 
 }  // namespace kordavan

@@ -6,6 +6,7 @@
 #include "design/NewBeam.h"
 #include "forms/EntryDiagram.h"
 #include "forms/Form1.h"
+#include "forms/Form11.h"
 #include "forms/Form13.h"
 #include "forms/Form2.h"
 #include "forms/Form21.h"
@@ -13,6 +14,8 @@
 #include "forms/Form25.h"
 #include "forms/Form3.h"
 #include "forms/Form5.h"
+#include "forms/Form6.h"
+#include "forms/Form7.h"
 #include "forms/NumericBox.h"
 #include "records/DefaultsFile.h"
 #include "records/RecentFiles.h"
@@ -71,6 +74,12 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form2>(*this);
         case Screen::TestReport:
             return std::make_unique<Form5>(*this);
+        case Screen::Record:
+            return std::make_unique<Form6>(*this);
+        case Screen::Print:
+            return std::make_unique<Form7>(*this);
+        case Screen::LoadDiagram:
+            return std::make_unique<Form11>(*this);
         case Screen::Settings:
             return std::make_unique<Form13>(*this);
         case Screen::Notes:
@@ -130,6 +139,34 @@ void Walk::ShowBeside(Screen screen)
     form.show();
     form.raise();
     form.activateWindow();
+}
+
+void Walk::RefreshBeside(Screen screen)
+{
+    if (Form* const form = SeenForm(screen)) {
+        form->Activate();
+    }
+}
+
+void Walk::ShowNotes()
+{
+    if (front != nullptr) {
+        front->ShowNotes();
+    }
+}
+
+void Walk::PutAway(Screen screen)
+{
+    if (Form* const form = SeenForm(screen)) {
+        form->hide();
+    }
+}
+
+/// A form that has been made and is on the screen; none else.
+Form* Walk::SeenForm(Screen screen) const
+{
+    const auto form = forms.find(screen);
+    return form != forms.end() && form->second->isVisible() ? form->second.get() : nullptr;
 }
 
 void Walk::AskToExit()

@@ -23,6 +23,9 @@ enum class Screen {
     SteelSelection,
     OwnSelection,
     TestReport,
+    Record,
+    Print,
+    LoadDiagram,
     Settings,
     Notes,
     Calculator,
@@ -79,6 +82,15 @@ public:
     /// Shows a screen beside the one in front, which stays.
     void ShowBeside(Screen screen);
 
+    /// Fills a screen that stands beside again, if it is seen.
+    void RefreshBeside(Screen screen);
+
+    /// Lets the form in front show the notes as they are typed beside it.
+    void ShowNotes();
+
+    /// Hides a screen that stands beside, if it is seen.
+    void PutAway(Screen screen);
+
     /// Asks whether to end the program, and ends it on Yes.
     void AskToExit();
 
@@ -95,6 +107,7 @@ public:
 
 private:
     std::unique_ptr<Form> MakeForm(Screen screen);
+    Form* SeenForm(Screen screen) const;
     void RememberBox(QWidget* now);
     void Center(Form& form) const;
 

@@ -13,9 +13,8 @@ constexpr std::string_view LoadsUnbalanced =
     "Kordavan cannot save criteria when loads are unbalanced.  Please restore the loads by clicking the "
     "RESTORE button below the point loads entry boxes and then save the criteria.";
 constexpr std::string_view UnfitNumber =
-    "A Beam Criteria file cannot hold the number in this box: it is too large, or a deflection limit that is "
-    "no "
-    "whole number.  Please change it and save again.";
+    "A Beam Criteria file cannot hold the number in this box: it is too large, or a deflection limit that "
+    "is no whole number.  Please change it and save again.";
 
 }  // namespace
 

@@ -415,6 +415,7 @@ Outcome RestoreCriteria(const PackedRecord& record, Session& session, UserPort& 
     SettleEntries(record, problem);
     session.Problem = std::move(problem);
     session.Restore = {};
+    session.Record = {};
     session.Unbalanced = {};
     session.Selection.reset();
     session.Header.Heading1 = record.Text("Heading1");

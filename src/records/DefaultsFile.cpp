@@ -20,9 +20,8 @@ namespace {
 
 constexpr std::string_view AnotherKind =
     "A new Default Values file has been created for you.  You may set your default preferences at the menu "
-    "bar "
-    "of Form 1 by selecting OPTIONS, select SET DEFAULTS, and fill in your preferences.   PLEASE NOTE: ARIAL "
-    "font is recommended for print-outs.";
+    "bar of Form 1 by selecting OPTIONS, select SET DEFAULTS, and fill in your preferences.   PLEASE NOTE: "
+    "ARIAL font is recommended for print-outs.";
 constexpr std::string_view OtherFont =
     "Please Note: Arial is the recommended printout font. You have selected another font that may or may not "
     "display well on your printouts.";

@@ -39,4 +39,30 @@ inline constexpr FileDialogText SaveCustomValuesDialog{.Title = "Save Custom Val
                                                        .Filters = CustomValuesFilters,
                                                        .SelectedFilter = 2};
 
+inline constexpr std::string_view DataRecordFilters = "All Files (*.*)|*.*|Kordavan Files (*.Dat)|*.Dat|";
+
+inline constexpr FileDialogText OpenDataRecordDialog{.Title = "Open Data Record",
+                                                     .FileName = "*.Dat",
+                                                     .DefaultExtension = {},
+                                                     .Filters = DataRecordFilters,
+                                                     .SelectedFilter = 2};
+inline constexpr FileDialogText SaveDataRecordDialog{.Title = "Save Data Record As",
+                                                     .FileName = "*.Dat",
+                                                     .DefaultExtension = "Dat",
+                                                     .Filters = DataRecordFilters,
+                                                     .SelectedFilter = 2};
+
+inline constexpr FileDialogText SavePdfDialog{.Title = "Save as PDF",
+                                              .FileName = "*.pdf",
+                                              .DefaultExtension = "pdf",
+                                              .Filters = "All Files (*.*)|*.*|PDF Files (*.pdf)|*.pdf|",
+                                              .SelectedFilter = 2};
+
+inline constexpr FileDialogText SavePictureDialog{
+    .Title = "Save Picture As",
+    .FileName = "*.png",
+    .DefaultExtension = "png",
+    .Filters = "PNG Pictures (*.png)|*.png|SVG Drawings (*.svg)|*.svg|",
+    .SelectedFilter = 1};
+
 }  // namespace kordavan

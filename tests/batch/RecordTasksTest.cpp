@@ -200,6 +200,31 @@ INSTANTIATE_TEST_SUITE_P(
                                     CustomSclBytes().All()}),
     CaseName);
 
+TEST(WriteRecord, PutsTheCellsOfADataRecordAtTheirPlaces)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a.Dat");
+    EXPECT_EQ(
+        Answer(LineWith(R"({"task":"write-record","kind":"data-record","path":"PATH","fields":{)"
+                        R"("Label1":"Barn","Label13":"38.92","Label19":"kept","Label133Missing":"head",)"
+                        R"("ReportNotes":["","note"],"Label133":"R2= 3 in\u00b2","SteelRecord":true,)"
+                        R"("Label194":"  Rb > 50!"}})",
+                        path)),
+        R"({"status":"done","messages":[],"bytes":4809})");
+    RecordBytes expected(4809);
+    expected.Short(0, 556).Blanks(2, 4565).On(4567).Blanks(4569, 230).Text(2, "Barn").Text(462, "38.92");
+    expected.Text(582, "kept").Text(2732, "head").Text(3747, "note").Text(4527, "R2= 3 in\xB2");
+    EXPECT_EQ(FirstDifference(FileBytes(path), expected.Text(4749, "  Rb > 50!").All()), "");
+    const std::string text =
+        Answer(LineWith(R"({"task":"read-record","kind":"data-record","path":"PATH"})", path));
+    EXPECT_THAT(text, StartsWith(R"({"status":"done","messages":[],"fields":{"RecordTag":556,)"
+                                 R"("Label1":"Barn","Label2":"",)"));
+    EXPECT_THAT(text, HasSubstr(R"("Label6":"","Label13":"38.92","Label14":"",)"));
+    EXPECT_THAT(text, HasSubstr(R"("Label53":"","ReportNotes":["","note","","","","",""],"Label176":"",)"));
+    EXPECT_THAT(text, HasSubstr("\"Label133\":\"R2= 3 in\u00B2\",\"Label12\":\"\",\"SteelRecord\":true,"));
+    EXPECT_THAT(text, testing::EndsWith(R"("Label194":"  Rb > 50!"},"bytes":4809})"));
+}
+
 TEST(WriteRecord, LeavesProductsBlankThatAreNotGiven)
 {
     const TemporaryFolder folder;
@@ -248,6 +273,8 @@ INSTANTIATE_TEST_SUITE_P(
                     WrongKindCase{
                         "custom-values", CustomValuesBytes().Short(0, 1).All(),
                         "The selected file does not contain Kordavan Custom Values.  Please check "},
+                    WrongKindCase{"data-record", RecordBytes(4809).Short(0, 554).All(),
+                                  "The file you have selected does not contain a Kordavan Data Record.  "},
                     WrongKindCase{"scl", CustomSclBytes().All(),
                                   "Kordavan23.LVL does not contain Kordavan SCL Values.  "},
                     WrongKindCase{"scl-custom", SclBytes().All(),
@@ -426,6 +453,8 @@ INSTANTIATE_TEST_SUITE_P(
                          "fields.MaxDefl: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"criteria", R"({"RecordTag":-32769})",
                          "fields.RecordTag: a whole number from -32768 to 32767 is expected"},
+        InvalidFieldCase{"data-record", R"({"Label51":"x"})", "fields.Label51: no such field"},
+        InvalidFieldCase{"data-record", R"({"Label13":38.92})", "fields.Label13: a text is expected"},
         InvalidFieldCase{"custom-values", R"({"SPG":true})", "fields.SPG: no such field"},
         InvalidFieldCase{"custom-values", R"({"Fb":"2400"})",
                          "fields.Fb: a number that a 32-bit float can hold is expected"},

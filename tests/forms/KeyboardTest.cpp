@@ -92,6 +92,22 @@ TEST_F(KeyboardTest, TabRunsDownTheCriteriaPage)
     EXPECT_EQ(FocusName(), "CmdOK");
 }
 
+TEST_F(KeyboardTest, TabRunsDownTheLoadDiagram)
+{
+    Form& diagram = walk.FormOf(Screen::LoadDiagram);
+    walk.ShowBeside(Screen::LoadDiagram);
+    std::vector<std::string> stops;
+    for (QWidget* stop = diagram.findChild<QWidget*>(QStringLiteral("LiveLoad"));
+         stops.empty() || stop->objectName() != QLatin1String("LiveLoad"); stop = stop->nextInFocusChain()) {
+        if ((stop->focusPolicy() & Qt::TabFocus) != 0 && !stop->objectName().isEmpty()) {
+            stops.push_back(Text(stop->objectName()));
+        }
+    }
+    EXPECT_THAT(stops,
+                testing::ElementsAre("LiveLoad", "LoadPlot", "ShearPlot", "MomentPlot", "DeflectionPlot",
+                                     "PeakText", "CopyDiagram", "SavePicture", "CmdClose"));
+}
+
 TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
 {
     for (const std::string condition : {"SimpleSpanbutton", "OHbutton", "IncButton", "Multibutton"}) {
@@ -111,8 +127,9 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
         form.Activate();
         EXPECT_THAT(DoubledMnemonics(form), testing::IsEmpty());
     }
-    for (const Screen screen : {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport,
-                                Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram}) {
+    for (const Screen screen :
+         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Print,
+          Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
 }
@@ -129,7 +146,8 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
     for (const Screen screen :
          {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
-          Screen::TestReport, Screen::Settings, Screen::Notes, Screen::Calculator, Screen::OverhangDiagram}) {
+          Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
+          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {

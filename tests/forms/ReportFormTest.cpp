@@ -136,6 +136,7 @@ TEST_F(ReportFormTest, FailedSelectionIsRecordedAsSuch)
 {
     TestMemberOn("4x", "14", "HF #2");
     Click("Command2");
+    Choose("MnuCriteria");
     EXPECT_EQ(LabelText("SavePanel"), " Selection:   4x  14 HF #2   -  Status: Fails   -  Date: 3/07/26");
 }
 

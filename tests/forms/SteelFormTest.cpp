@@ -245,6 +245,7 @@ TEST_F(SteelFormTest, TheShapeGoesOnRecord)
     Press("CmdOK");
     Press("StlPick[0]");
     Press("Command2");
+    Choose("MnuCriteria");
     EXPECT_EQ(LabelText("SavePanel"), " Selection:   W 8x 10   -  Status: OK   -  Date: 3/07/26");
 }
 

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -16,10 +17,41 @@
 #include <string>
 
 #include "forms/Form.h"
+#include "forms/PrinterPort.h"
 #include "forms/Walk.h"
 #include "support/ScriptedUser.h"
 
 namespace kordavan {
+
+/// A printer that keeps the text of each page, and whose setup dialog always chooses the plotter.
+class ScriptedPrinter : public PrinterPort {
+public:
+    bool HasPrinter() override { return IsThere; }
+    std::string CurrentPrinter() override { return Current; }
+    void UsePrinter(const std::string& name) override { Current = name; }
+    void AskSetup(QWidget& /*owner*/) override { Current = "plotter"; }
+
+    std::optional<std::string> AskFont(QWidget& /*owner*/, const std::string& /*current*/) override
+    {
+        return ChosenFont;
+    }
+
+    PrintEnd Print(const PrintJob& job) override
+    {
+        if (End == PrintEnd::Printed) {
+            Printed.push_back(PlainTextOf(job.Page));
+            Family = Text(job.Family);
+        }
+        return End;
+    }
+
+    bool IsThere = true;
+    PrintEnd End = PrintEnd::Printed;  // how the next job goes
+    std::string Current = "office";
+    std::optional<std::string> ChosenFont;
+    std::vector<std::string> Printed;
+    std::string Family;
+};
 
 /// A desk whose clock stands still and that remembers what it was asked to do.
 class ScriptedDesktop : public DesktopPort {
@@ -31,6 +63,12 @@ public:
 
     std::optional<std::string> AskOpenFile(const FileDialogText& text) override { return Choose(text); }
     std::optional<std::string> AskSaveFile(const FileDialogText& text) override { return Choose(text); }
+    PrinterPort& Printers() override { return Printer; }
+    void CopyPicture(const QImage& picture, const std::string& words) override
+    {
+        CopiedPicture = picture;
+        CopiedWords = words;
+    }
     std::string FixedFilesFolder() override { return Text(Folder.path()); }
 
     /// A file in the folder of this test.
@@ -38,7 +76,10 @@ public:
 
     std::optional<std::string> ChosenFile;  // by the next dialog; none cancels it
     std::vector<std::string> DialogTitles;  // of the dialogs shown
+    QImage CopiedPicture;                   // what the clipboard holds
+    std::string CopiedWords;
     QTemporaryDir Folder;
+    ScriptedPrinter Printer;
     int ExplorersOpened = 0;
     bool HasEnded = false;
 

@@ -37,6 +37,9 @@ protected:
     void SelectAndReturn()
     {
         Key(Qt::Key_Return);
+        ASSERT_EQ(FrontName(), "Form6");
+        Choose("MnuCriteria");
+        Settle();
         ASSERT_EQ(FrontName(), "Form1");
         EXPECT_THAT(LabelText("SavePanel"), HasSubstr(" Selection:   "));
         EXPECT_THAT(LabelText("SavePanel"), HasSubstr("   -  Status: OK   -  Date: 3/07/26"));

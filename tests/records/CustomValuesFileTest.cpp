@@ -23,8 +23,7 @@ constexpr std::string_view ForSclText =
     "glu-lams only.";
 constexpr std::string_view UnfitText =
     "A Custom Value file cannot hold what is in this box: it is no number, or too large.  Please change it "
-    "and "
-    "save again.";
+    "and save again.";
 constexpr std::string_view WrongTagText =
     "The selected file does not contain Kordavan Custom Values.  Please check to see if you selected the "
     "appropriate file.\n"

@@ -11,6 +11,8 @@
 #include "records/CriteriaRecord.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
+#include "records/DataRecordFile.h"
+#include "records/DataRecordLayout.h"
 #include "records/DefaultsFile.h"
 #include "records/DefaultsLayout.h"
 #include "records/RecentFiles.h"
@@ -127,9 +129,9 @@ TEST(HostileFiles, AreRecordsOfSomeKind)
     HostileFiles files;
     std::size_t letters = 0;
     for (int round = 0; round < Rounds; ++round) {
-        for (const RecordLayout* layout :
-             {&CriteriaLayout, &DefaultsLayout, &CustomValuesLayout, &SclLayout, &CustomSclLayout}) {
-            const std::string bytes = files.AnyBytes(2000);
+        for (const RecordLayout* layout : {&CriteriaLayout, &DataRecordLayout, &DefaultsLayout,
+                                           &CustomValuesLayout, &SclLayout, &CustomSclLayout}) {
+            const std::string bytes = files.AnyBytes(5000);
             const PackedRecord record(*layout, bytes);
             ASSERT_EQ(record.Bytes().size(), layout->Size);
             for (const RecordField& field : layout->Fields) {
@@ -266,6 +268,28 @@ TEST(HostileFiles, GiveSclValuesThatBoxesCanShow)
         }
     }
     EXPECT_GT(held, Rounds / 3);
+}
+
+TEST(HostileFiles, GiveSheetsThatCanBeSavedAgain)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("odd.Dat");
+    HostileFiles files;
+    int shown = 0;
+    for (int round = 0; round < Rounds / 10; ++round) {
+        PutNew(path, files.AnyFile(6000, files.Coin() ? DataRecordTag : OldDataRecordTag));
+        DataSheet sheet;
+        RefusingUser user;
+        if (OpenDataRecord(path, sheet, user) == Outcome::Refused) {
+            ASSERT_EQ(sheet, DataSheet{});
+            continue;
+        }
+        ++shown;
+        DataSheet again = sheet;
+        RestoreDataSheet(MakeDataRecord(sheet, {sheet[1], sheet[2], sheet[3]}), again);
+        ASSERT_EQ(again, sheet) << "round " << round;
+    }
+    EXPECT_GT(shown, Rounds / 40);
 }
 
 TEST(HostileFiles, MakeAListOfAtMostEight)

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QWidget>
+#include <optional>
+#include <vector>
+
+#include "design/LoadPicture.h"
+#include "records/RecordPage.h"
+
+class QLabel;
+
+namespace kordavan {
+
+/// A record's page on the screen: its cells are labels that can be selected and copied, laid out as on paper
+/// and enlarged with the window up to a limit.
+class RecordSheet : public QWidget {
+    Q_OBJECT
+
+public:
+    RecordSheet();
+
+    /// @param newLoads  for the page's diagram; none leaves its room empty
+    void Show(const RecordPage& newPage, const std::optional<LoadPicture>& newLoads,
+              const QString& fontFamily);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    struct Cell {
+        QLabel* Shown;
+        const PageText* Text;
+    };
+
+    void MakeCells();
+    void PlaceCells();
+    void PaintCell(const Cell& cell) const;
+    double Scale(int width) const;
+    QRectF Sheet() const;
+
+    RecordPage page;
+    std::optional<LoadPicture> loads;
+    QString family;
+    std::vector<Cell> cells;
+};
+
+}  // namespace kordavan
