@@ -234,9 +234,10 @@ TEST_F(WalkTest, EndsOnlyOnYes)
 TEST(ExitTest, EndsTheProgramAtOnce)
 {
     Session session;
+    ColumnSession columns;
     ScriptedUser user;
     QtDesktop desktop;
-    Walk walk(session, user, desktop);
+    Walk walk(session, columns, user, desktop);
     walk.Go(Screen::Criteria);
     walk.ShowBeside(Screen::Notes);
     user.WillAnswer(true);

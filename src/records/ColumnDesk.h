@@ -1,0 +1,41 @@
+#pragma once
+
+#include "columns/ColumnSession.h"
+#include "core/Message.h"
+#include "design/SelectionRecord.h"
+#include "design/Session.h"
+#include "records/ColumnRecordFile.h"
+
+namespace kordavan {
+
+/// The record of a kind that is on show.
+ColumnRecordOnShow& ColumnRecordOf(ColumnSession& columns, ColumnRecordKind kind);
+
+/// Makes the record of the size tested last, with the heading of the column and the notes of the clipboard.
+/// Refused, with a message, while nothing has been tested.
+Outcome SelectColumnForRecord(ColumnSession& columns, const Session& beam, ColumnRecordKind kind,
+                              CalendarDay today, UserPort& user);
+
+/// Shows a record that was loaded from a file, and its notes if it has any; the own one comes back once it is
+/// left.
+void TakeLoadedColumnRecord(ColumnSession& columns, Session& beam, ColumnRecordKind kind,
+                            const ColumnSheet& sheet);
+
+/// Leaves a loaded record; false where there is no other one to come back to.
+bool LeaveLoadedColumnRecord(ColumnSession& columns, ColumnRecordKind kind);
+
+/// Puts the notes of the note clipboard on the sheet.
+void BringColumnNotes(ColumnSession& columns, const Session& beam, ColumnRecordKind kind);
+
+/// Fills the heading to be printed of what stands on the sheet, or, for a stud, of its entries; one already
+/// entered stays.
+void PrepareColumnHeading(ColumnSession& columns, ColumnRecordKind kind, CalendarDay today);
+void PrepareStudHeading(ColumnSession& columns, const Session& beam, CalendarDay today);
+
+/// Heads the sheet on show by what is entered; an empty date is today's.
+void TakeColumnHeading(ColumnSession& columns, ColumnRecordKind kind, CalendarDay today);
+
+/// The unsaved work of the columns, as the exit question names it; empty when there is none.
+std::string UnsavedColumnWork(const ColumnSession& columns);
+
+}  // namespace kordavan

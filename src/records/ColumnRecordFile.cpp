@@ -1,0 +1,1 @@
+#include "records/ColumnRecordFile.h"

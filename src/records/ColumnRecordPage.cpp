@@ -1,0 +1,1 @@
+#include "records/ColumnRecordPage.h"
