@@ -14,6 +14,7 @@ public:
     RecordHeading& Heading() override;
     void PrepareHeading() override;
     void TakeHeading() override;
+    void TakeNotes() override;
     RecordPage HeadedPage(bool hasNotes) override;
 
     /// The loads of the page; those of a record of text alone are not known.
@@ -29,7 +30,6 @@ public:
 protected:
     /// Fills the sheet anew, unless it was loaded from a file.
     void FillRecord() override;
-    void TakeNotes() override;
     RecordPage Page() override;
     void GoBack() override;
 

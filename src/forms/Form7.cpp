@@ -78,6 +78,12 @@ void Form7::Activate()
     FocusOn("Heading1");
 }
 
+void Form7::ShowNotes()
+{
+    source->TakeNotes();
+    Refresh();
+}
+
 QAbstractButton* Form7::DefaultCommand()
 {
     return print;

@@ -24,7 +24,7 @@ public:
     explicit Form7(Walk& walk);
 
     void Activate() override;
-    void ShowNotes() override { Refresh(); }
+    void ShowNotes() override;
 
     /// The record to print from now on; to be told before the form is shown.
     void PrintFrom(PrintSource& record) { source = &record; }

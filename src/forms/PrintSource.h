@@ -9,6 +9,9 @@
 
 namespace kordavan {
 
+/// What the box of a column's mark is called.
+inline constexpr std::string_view ColumnIdCaption = "Column &ID";
+
 /// A record as the print screen needs it: it is headed there, laid out, saved and left again.
 class PrintSource {
 public:
@@ -25,6 +28,9 @@ public:
 
     /// Heads the record by what is entered; an empty date becomes today's.
     virtual void TakeHeading() = 0;
+
+    /// Puts the notes of the note clipboard on the record.
+    virtual void TakeNotes() = 0;
 
     /// The page under the heading as it is entered.
     virtual RecordPage HeadedPage(bool hasNotes) = 0;

@@ -17,10 +17,10 @@ namespace kordavan {
 
 RecordForm::RecordForm(Walk& theWalk, std::string_view name)
     : Form(theWalk, name),
-      sheet(new RecordSheet),
+      shown(new RecordSheet),
       print(MakeButton({.Name = "Command1", .Tip = "Heads the page and prints it (Enter)"}, "&Print..."))
 {
-    Body().addWidget(sheet, 1);
+    Body().addWidget(shown, 1);
     print->setDefault(true);
     connect(print, &QPushButton::clicked, this, [this] { GoToPrint(); });
     Foot().addStretch(1);
@@ -47,7 +47,7 @@ QAbstractButton* RecordForm::DefaultCommand()
 
 void RecordForm::ShowSheet()
 {
-    sheet->Show(Page(), Picture(), font().family());
+    shown->Show(Page(), Picture(), font().family());
 }
 
 void RecordForm::AddPageCommands(QMenu& file)

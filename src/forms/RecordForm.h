@@ -26,11 +26,8 @@ public:
 protected:
     RecordForm(Walk& walk, std::string_view name);
 
-    /// The record on show, filled again where it can be.
+    /// Fills the record again where it can be.
     virtual void FillRecord() = 0;
-
-    /// Puts the notes of the note clipboard on the record.
-    virtual void TakeNotes() = 0;
 
     /// The page as it stands.
     virtual RecordPage Page() = 0;
@@ -53,7 +50,7 @@ private:
     void SaveAsPdf();
     void GoToPrint();
 
-    RecordSheet* sheet;
+    RecordSheet* shown;
     QPushButton* print;
     QAction* back = nullptr;
     QAction* backInBar = nullptr;
