@@ -72,7 +72,7 @@ void FillLines(const WoodColumnTest& test, ColumnSheet& sheet)
     sheet[12] = ColumnMemberText(test);
     sheet[66] = ColumnAttributeText(test);
     sheet[10] = test.Problem.SpeciesGrade;
-    sheet[86] = "Status: " + std::string(test.Result.Passes ? ColumnStatus::Ok : ColumnStatus::Fails);
+    sheet[86] = test.Result.Passes ? "Status: OK" : "Status: Fails";
     sheet[59] = GoverningLine(test);
     sheet.SheathNote = BracingNote(test.Problem);
     sheet.Sheathnote2 = PlyNote(test.Problem.Type);
@@ -95,7 +95,7 @@ void FillGeometry(const WoodColumnTest& test, ColumnSheet& sheet)
     sheet[61] = CellNumber(result.SlendernessD1, SlendernessFormat);
     sheet[67] = CellNumber(result.SlendernessD2, SlendernessFormat);
     sheet[68] = CellNumber(MostColumnSlenderness, "0");
-    sheet[69] = result.SlendernessOver50 ? ColumnStatus::Fails : ColumnStatus::Ok;
+    sheet[69] = result.SlendernessOver50 ? ColumnStatus::Fail : ColumnStatus::Ok;
 }
 
 void FillValues(const WoodColumnTest& test, ColumnSheet& sheet)
