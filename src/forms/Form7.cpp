@@ -120,6 +120,7 @@ void Form7::BuildHeading(QGridLayout& grid)
     add({.Name = "Text2", .Tip = "Description of the member"}, MostText, "De&scription", heading.Description);
     idCaption =
         add({.Name = "Text3", .Tip = "Mark of the member on the plans"}, MostText, {}, heading.BeamId);
+    idCaption->setObjectName(QStringLiteral("IdCaption"));
     add({.Name = "Datebox", .Tip = "Date of the record; today when empty"}, MostDate, "Dat&e", heading.Date);
     add({.Name = "Initialbox", .Tip = "Initials of the designer"}, MostInitials, "Prepared b&y",
         heading.Initials);

@@ -5,6 +5,7 @@
 #include "columns/ColumnCriteria.h"
 #include "columns/SteelColumn.h"
 #include "columns/StudColumn.h"
+#include "columns/StudPicture.h"
 #include "columns/WoodColumn.h"
 #include "forms/WalkFixture.h"
 #include "records/ColumnDesk.h"
@@ -112,11 +113,11 @@ protected:
             ASSERT_EQ(CalculateSteelColumn(columns, user), Outcome::Done);
             ASSERT_EQ(PickSteelColumn(columns, SteelColumnKind::Standard, 0, user), Outcome::Done);
         } else {
-            PickColumnSpecies(columns.Entry, "DF-L #2", session.Nds.InForce());
-            ASSERT_EQ(CalculateWoodColumn(columns, session.Nds.InForce(), user), Outcome::Done);
+            PickColumnSpecies(columns.Entry, "DF-L #2", EditionInForce(session.Nds));
+            ASSERT_EQ(CalculateWoodColumn(columns, EditionInForce(session.Nds), user), Outcome::Done);
             columns.ColD1Text = "3.5";
             columns.ColD2Text = "5.5";
-            ASSERT_EQ(TestEnteredColumn(columns, session.Nds.InForce(), user), Outcome::Done);
+            ASSERT_EQ(TestEnteredColumn(columns, EditionInForce(session.Nds), user), Outcome::Done);
         }
         ASSERT_EQ(SelectColumnForRecord(columns, session, kind.Kind, desktop.Today(), user), Outcome::Done);
         walk.Go(kind.Shown);
@@ -137,12 +138,13 @@ protected:
     ColumnSheet SheetIn(std::string_view file)
     {
         ColumnSheet sheet;
-        EXPECT_EQ(OpenColumnRecord(desktop.PathOf(std::string(file)), GetParam().Kind, sheet, user), Outcome::Done);
+        EXPECT_EQ(OpenColumnRecord(desktop.PathOf(std::string(file)), GetParam().Kind, sheet, user),
+                  Outcome::Done);
         return sheet;
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Kinds, ColumnRecordFormTest, testing::Values(WoodCase, SteelCase), CaseName());
+INSTANTIATE_TEST_SUITE_P(Kinds, ColumnRecordFormTest, testing::Values(WoodCase, SteelCase), CaseName);
 
 TEST_P(ColumnRecordFormTest, ShowsTheSizeSelected)
 {
@@ -255,9 +257,10 @@ TEST_P(ColumnRecordFormTest, NotesTypedBesideItStandOnItAndOnThePrintedPage)
     user.WillAnswer(false);
     Press("CmdPrint");
     EXPECT_THAT(desktop.Printer.Printed[1], Not(HasSubstr("Paint")));
-    EXPECT_EQ(user.Told.front().Text,
-              "There are currently notes on the Note Clipboard. Would you like them included on the printed Data "
-              "Record?");
+    EXPECT_EQ(
+        user.Told.front().Text,
+        "There are currently notes on the Note Clipboard. Would you like them included on the printed Data "
+        "Record?");
 }
 
 TEST_P(ColumnRecordFormTest, IsHeadedAndPrinted)
@@ -331,7 +334,7 @@ protected:
         stud.WindStudE = "1.6";
         stud.AxialPLFtextbox = "600";
         stud.Wind[0] = "20";
-        ASSERT_EQ(CalculateStud(columns, session.Nds.InForce(), user), Outcome::Done);
+        ASSERT_EQ(CalculateStud(columns, EditionInForce(session.Nds), user), Outcome::Done);
         walk.Go(Screen::StudRecord);
         Settle();
     }
