@@ -81,7 +81,6 @@ void AnswerSteelColumn(const JsonValue& request, const JsonValue* id, AnswerWrit
     RefuseUnknownFields(request, RequestFields);
     const Edition edition = EditionOf(request);
     ColumnSession columns;
-    columns.Face = ColumnFace::Steel;
     if (const JsonValue* const column = FindMember(request, "column")) {
         ReadColumnEntry(*column, FieldPath("column"), edition, columns.Entry);
     }

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include "columns/ColumnCriteria.h"
@@ -22,19 +21,8 @@ constexpr std::string_view HowToEnter =
 constexpr std::string_view NoMatch =
     "Kordavan could not find a match in the database for the size entered. Please click the small, gray, "
     "raised button next to 'Size' to see a list of acceptable entries.";
-constexpr std::string_view EntryTooLarge =
-    "Overflow: the load or length entered is too large for a steel column to be calculated.";
-
-struct NumberEntry {
-    float SteelColumnProblem::*Value;
-    std::string_view Box;
-};
-
-constexpr std::array NumberEntries{
-    NumberEntry{&SteelColumnProblem::Reaction, "cReacText"},
-    NumberEntry{&SteelColumnProblem::UnbracedLength, "cD1text"},
-    NumberEntry{&SteelColumnProblem::K, "cModeText"},
-};
+constexpr std::string_view TooLarge =
+    "Overflow: the load or the unbraced length entered is too large for this size to be calculated.";
 
 bool IsFinite(const SteelColumnResult& result)
 {
@@ -86,14 +74,8 @@ Outcome CalculateSteelColumn(ColumnSession& columns, UserPort& user)
     if (ValidateColumnProblem(columns.Entry, ColumnFace::Steel, user) != Outcome::Done) {
         return Outcome::Refused;
     }
-    const SteelColumnProblem problem = ReadSteelColumnProblem(columns.Entry);
-    for (const NumberEntry& entry : NumberEntries) {
-        if (!std::isfinite(problem.*entry.Value)) {
-            return Refuse(user, Refusal(EntryTooLarge, entry.Box));
-        }
-    }
-    columns.SteelProblem = problem;
-    columns.SteelPicks = SearchSteelColumns(problem);
+    columns.SteelProblem = ReadSteelColumnProblem(columns.Entry);
+    columns.SteelPicks = SearchSteelColumns(columns.SteelProblem);
     columns.StlColSizeText.clear();
     columns.StlColGrade.clear();
     columns.SteelTest.reset();
@@ -129,7 +111,7 @@ Outcome ReportEnteredSteelColumn(ColumnSession& columns, UserPort& user)
     const auto place = static_cast<std::size_t>(row - rows.begin());
     const SteelColumnResult result = WorkOutSteelColumn(columns.SteelProblem, place);
     if (!IsFinite(result)) {
-        return Refuse(user, Refusal(EntryTooLarge, SizeBox));
+        return Refuse(user, Refusal(TooLarge, SizeBox));
     }
     columns.SteelTest = SteelColumnTest{.Problem = columns.SteelProblem,
                                         .Result = result,
