@@ -1,7 +1,7 @@
 #include "forms/StudOnPage.h"
 
+#include <QPolygonF>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <string>
 #include <vector>
@@ -15,37 +15,31 @@ namespace kordavan {
 
 namespace {
 
-constexpr double WindShare = 0.5;  // of the height, for the stud and its wind
+constexpr double WindShare = 0.45;  // of the height, for the stud and its wind
 
 // Heights and widths in lines of text.
 constexpr double Inset = 0.35;
 constexpr double TitleHeight = 1.2;
 constexpr double EndsHeight = 1.2;
-constexpr double BlockGap = 0.2;
+constexpr double BlockGap = 0.25;
 constexpr double ArrowPitch = 2.5;
 constexpr double HeadLength = 0.45;
 constexpr double StudWidth = 0.25;
+constexpr double LineWidth = 0.08;
 
 constexpr double LeastBlockShare = 0.5;  // of a row, for the smallest wind
 constexpr float BlockTint = 0.22F;
 
-/// One wind load, with the row that it stands in: from the stud upwards where it presses, downwards where it
-/// draws.
+/// One wind load with the row that it stands in, from the stud upwards.
 struct WindBlock {
     char Letter;
     double Begin;  // ft from the base
     double End;
     double Psf;
-    int Row = 0;
-
-    bool Presses() const { return Psf > 0; }
+    int Row;
 };
 
-bool Overlap(const WindBlock& a, const WindBlock& b)
-{
-    return a.Presses() == b.Presses() && a.Begin < b.End && b.Begin < a.End;
-}
-
+/// Loads that overlap stand over each other.
 std::vector<WindBlock> BlocksOf(const StudColumnProblem& stud)
 {
     std::vector<WindBlock> blocks;
@@ -53,9 +47,13 @@ std::vector<WindBlock> BlocksOf(const StudColumnProblem& stud)
         if (stud.Wind[k] == 0 || stud.End[k] <= stud.Beg[k]) {
             continue;
         }
-        WindBlock block{static_cast<char>('A' + k), stud.Beg[k], stud.End[k], stud.Wind[k]};
-        for (const WindBlock& other : blocks) {
-            block.Row = Overlap(block, other) ? std::max(block.Row, other.Row + 1) : block.Row;
+        WindBlock block{
+            .Letter = WindLetter(k), .Begin = stud.Beg[k], .End = stud.End[k], .Psf = stud.Wind[k], .Row = 0};
+        const auto meets = [&block](const WindBlock& other) {
+            return other.Row == block.Row && other.Begin < block.End && block.Begin < other.End;
+        };
+        while (std::any_of(blocks.begin(), blocks.end(), meets)) {
+            ++block.Row;
         }
         blocks.push_back(block);
     }
@@ -79,7 +77,12 @@ public:
     void Draw(const std::vector<WindBlock>& blocks)
     {
         DrawPlotTitle(painter, whole, colors, {"Wind, psf"});
-        Settle(blocks);
+        int rows = 1;
+        for (const WindBlock& block : blocks) {
+            rows = std::max(rows, block.Row + 1);
+            largest = std::max(largest, std::abs(block.Psf));
+        }
+        rowHeight = room.height() / rows;
         for (const WindBlock& block : blocks) {
             DrawBlock(block);
         }
@@ -87,28 +90,13 @@ public:
     }
 
 private:
-    /// Rows of equal height above the stud and below it.
-    void Settle(const std::vector<WindBlock>& blocks)
-    {
-        int above = 0;
-        int below = 0;
-        for (const WindBlock& block : blocks) {
-            int& rows = block.Presses() ? above : below;
-            rows = std::max(rows, block.Row + 1);
-            largest = std::max(largest, std::abs(block.Psf));
-        }
-        rowHeight = room.height() / std::max(above + below, 1);
-        studY = room.top() + above * rowHeight;
-    }
-
     QRectF AreaOf(const WindBlock& block) const
     {
         const double share = LeastBlockShare + (1 - LeastBlockShare) * std::abs(block.Psf) / largest;
         const double height = std::max(share * (rowHeight - BlockGap * line), 0.0);
-        const double near = (block.Row * rowHeight + BlockGap * line);
+        const double bottom = room.bottom() - block.Row * rowHeight - BlockGap * line;
         const double left = axis.Across(block.Begin);
-        const double top = block.Presses() ? studY - near - height : studY + near;
-        return {left, top, axis.Across(block.End) - left, height};
+        return {left, bottom - height, axis.Across(block.End) - left, height};
     }
 
     void DrawBlock(const WindBlock& block)
@@ -116,47 +104,50 @@ private:
         const QRectF where = AreaOf(block);
         QColor tint = colors.Load;
         tint.setAlphaF(BlockTint);
-        painter.setPen(colors.Load);
-        painter.setBrush(tint);
+        painter.fillRect(where, tint);
+        painter.setPen(QPen(colors.Load, LineWidth * line));
+        painter.setBrush(Qt::NoBrush);
         painter.drawRect(where);
         const int count = std::max(1, static_cast<int>(where.width() / (ArrowPitch * line)));
         for (int k = 0; k < count; ++k) {
-            DrawArrow(where, where.left() + (k + 0.5) * where.width() / count);
+            DrawArrow(where, where.left() + (k + 0.5) * where.width() / count, block.Psf < 0);
         }
         DrawCaption(block, where);
     }
 
-    /// Pressure points down to the stud, and suction down from it.
-    void DrawArrow(const QRectF& where, double x)
+    /// Pressure points to the stud, suction away from it.
+    void DrawArrow(const QRectF& where, double x, bool isSuction)
     {
-        const QPointF tip(x, where.bottom());
+        const QPointF tip(x, isSuction ? where.top() : where.bottom());
         const double length = std::min(HeadLength * line, where.height() / 2);
-        painter.drawLine(QPointF(x, where.top()), tip);
+        const QPointF back(0, isSuction ? length : -length);
+        const QPointF aside(length / 2, 0);
+        painter.drawLine(QPointF(x, where.top()), QPointF(x, where.bottom()));
         painter.setBrush(colors.Load);
-        painter.drawPolygon(
-            QPolygonF{tip, tip + QPointF(-length / 2, -length), tip + QPointF(length / 2, -length)});
+        painter.drawPolygon(QPolygonF{tip, tip + back - aside, tip + back + aside});
     }
 
     void DrawCaption(const WindBlock& block, const QRectF& where)
     {
-        const QString caption =
-            Text(std::string(1, block.Letter) + " " + PlainNumber(static_cast<float>(block.Psf)));
-        const double width = painter.fontMetrics().horizontalAdvance(caption) + line / 2;
+        const std::string words = std::string(1, block.Letter) + " " +
+                                  PlainNumber(static_cast<float>(block.Psf)) +
+                                  (block.Psf < 0 ? " suction" : "");
+        const double width = painter.fontMetrics().horizontalAdvance(Text(words)) + line / 2;
         const QRectF patch(where.center().x() - width / 2, where.center().y() - line / 2, width, line);
         painter.fillRect(patch, ground);
         painter.setPen(colors.Text);
-        painter.drawText(patch, Qt::AlignCenter, caption);
+        painter.drawText(patch, Qt::AlignCenter, Text(words));
     }
 
     void DrawStud()
     {
         painter.setPen(QPen(colors.Line, StudWidth * line));
-        painter.drawLine(QPointF(axis.Left(), studY), QPointF(axis.Right(), studY));
-        const QRectF ends(axis.Left() - line, room.bottom(), axis.Right() - axis.Left() + 2 * line,
+        painter.drawLine(QPointF(axis.Left(), room.bottom()), QPointF(axis.Right(), room.bottom()));
+        const QRectF ends(axis.Left(), room.bottom() + BlockGap * line, axis.Right() - axis.Left(),
                           EndsHeight * line);
         painter.setPen(colors.Text);
-        painter.drawText(ends, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Base"));
-        painter.drawText(ends, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("Top"));
+        painter.drawText(ends, Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("base"));
+        painter.drawText(ends, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("top"));
         painter.drawText(ends, Qt::AlignCenter, Text(FormatNumber(axis.Length(), "#0.00") + " ft"));
     }
 
@@ -166,10 +157,9 @@ private:
     double line;
     FeetAxis axis;
     QRectF whole;
-    QRectF room;  // of the stud and its wind
+    QRectF room;  // of the wind, down to the stud
     double largest = 0;
     double rowHeight = 0;
-    double studY = 0;
 };
 
 }  // namespace
