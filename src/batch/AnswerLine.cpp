@@ -14,6 +14,7 @@
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
+#include "batch/StudTask.h"
 #include "records/DataSheetFill.h"
 
 namespace kordavan {
@@ -104,6 +105,7 @@ constexpr std::array Tasks{
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},
     TaskRow{"steel-scan", AnswerSteelScan},
+    TaskRow{"stud", AnswerStud},
     TaskRow{"write-record", AnswerWriteRecord},
 };
 
