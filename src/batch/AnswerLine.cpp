@@ -15,6 +15,7 @@
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
 #include "batch/StudTask.h"
+#include "batch/WoodColumnTask.h"
 #include "records/DataSheetFill.h"
 
 namespace kordavan {
@@ -101,6 +102,7 @@ struct TaskRow {
 
 constexpr std::array Tasks{
     TaskRow{"beam", AnswerBeam},
+    TaskRow{"column", AnswerColumn},
     TaskRow{"hip-valley", AnswerHipValley},
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},

@@ -13,8 +13,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr double MostSlenderness = 50;  // NDS 3.7.1.4
-
 /// The rules read one after the other; each figure rests on those kept before it.
 class StudStrength {
 public:
@@ -52,7 +50,7 @@ private:
         const double Fc = double{result.CFc} * problem.BaseFc;
         const double Cd = problem.AxialCd;
         result.Slenderness = heightIn / problem.Depth;
-        result.SlendernessOver50 = result.Slenderness > MostSlenderness;
+        result.SlendernessOver50 = result.Slenderness > MostColumnSlenderness;
         result.FcE = Single(problem.BaseE * PsiPerMillion * EulerColumnCoefficient(isNds2005Plus) /
                             (result.Slenderness * result.Slenderness));
         result.FcStar = Single(Cd * Fc);
