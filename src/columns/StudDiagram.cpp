@@ -56,13 +56,13 @@ LoadDiagram ReadStudDiagram(const StudTest& test)
     plot.Title = "Moment, ft-lb";
     plot.Value = &BeamPoint::Moment;
     plot.HasFeet = true;
-    plot.Remark = "checked for " + MomentText(test.Result.MaxMoment);
+    plot.Remark = "worked with " + MomentText(test.Result.MaxMoment);
     const CurveMark greatest = GreatestOf(diagram.Curves);
     const bool isChecked =
         std::abs(greatest.Value - test.Result.MaxMoment) <= SamePart * std::abs(greatest.Value);
     if (test.Result.MaxMoment != 0) {
         plot.Marks.push_back(
-            MarkAt(test.Result.MaxMomentAtFt, test.Result.MaxMoment, isChecked ? "" : ", checked for"));
+            MarkAt(test.Result.MaxMomentAtFt, test.Result.MaxMoment, isChecked ? "" : ", worked with"));
     }
     if (!isChecked) {
         plot.Marks.push_back(greatest);

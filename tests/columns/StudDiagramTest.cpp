@@ -42,16 +42,16 @@ TEST(StudDiagram, MarksTheMomentThatTheStudIsCheckedFor)
     EXPECT_EQ(diagram.Curves.Length, 10);
     ASSERT_EQ(diagram.Curves.Points.size(), StudStationCount);
     EXPECT_FLOAT_EQ(static_cast<float>(diagram.Curves.Points[50].Moment), 1500);
-    EXPECT_EQ(diagram.Plots[1].Remark, "checked for 1,500 ft-lb");
+    EXPECT_EQ(diagram.Plots[1].Remark, "worked with 1,500 ft-lb");
     EXPECT_THAT(diagram.Plots[1].Marks, ElementsAre(Field(&CurveMark::Text, "1,500 ft-lb at 2.50 ft")));
 }
 
 TEST(StudDiagram, MarksAGreaterMomentThanTheOneCheckedFor)
 {
     EXPECT_THAT(MarksOf(StudWithPeaks(1500, 1200, 1200, 7.5)),
-                ElementsAre("1,200 ft-lb at 7.50 ft, checked for", "1,500 ft-lb at 2.50 ft, the greatest"));
+                ElementsAre("1,200 ft-lb at 7.50 ft, worked with", "1,500 ft-lb at 2.50 ft, the greatest"));
     EXPECT_THAT(MarksOf(StudWithPeaks(-1500, 1200, 1200, 7.5)),
-                ElementsAre("1,200 ft-lb at 7.50 ft, checked for", "-1,500 ft-lb at 2.50 ft, the greatest"));
+                ElementsAre("1,200 ft-lb at 7.50 ft, worked with", "-1,500 ft-lb at 2.50 ft, the greatest"));
 }
 
 TEST(StudDiagram, AMomentOfNothingHasNoMark)
