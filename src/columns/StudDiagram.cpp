@@ -1,15 +1,11 @@
 #include "columns/StudDiagram.h"
 
-#include <algorithm>
-#include <cmath>
-
+#include "columns/StudMoment.h"
 #include "core/NumberText.h"
 
 namespace kordavan {
 
 namespace {
-
-constexpr double SamePart = 1e-6;
 
 std::string MomentText(double moment)
 {
@@ -37,15 +33,6 @@ BeamCurves CurvesOf(const StudTest& test)
     return curves;
 }
 
-/// The moment that is greatest in size, inwards or outwards.
-CurveMark GreatestOf(const BeamCurves& curves)
-{
-    const auto top = std::max_element(
-        curves.Points.begin(), curves.Points.end(),
-        [](const BeamPoint& a, const BeamPoint& b) { return std::abs(a.Moment) < std::abs(b.Moment); });
-    return MarkAt(top->X, top->Moment, ", the greatest");
-}
-
 }  // namespace
 
 LoadDiagram ReadStudDiagram(const StudTest& test)
@@ -57,15 +44,14 @@ LoadDiagram ReadStudDiagram(const StudTest& test)
     plot.Value = &BeamPoint::Moment;
     plot.HasFeet = true;
     plot.Remark = "worked with " + MomentText(test.Result.MaxMoment);
-    const CurveMark greatest = GreatestOf(diagram.Curves);
-    const bool isChecked =
-        std::abs(greatest.Value - test.Result.MaxMoment) <= SamePart * std::abs(greatest.Value);
+    const bool isGreatest = StudMomentWarning(test).empty();
     if (test.Result.MaxMoment != 0) {
         plot.Marks.push_back(
-            MarkAt(test.Result.MaxMomentAtFt, test.Result.MaxMoment, isChecked ? "" : ", worked with"));
+            MarkAt(test.Result.MaxMomentAtFt, test.Result.MaxMoment, isGreatest ? "" : ", worked with"));
     }
-    if (!isChecked) {
-        plot.Marks.push_back(greatest);
+    if (!isGreatest) {
+        const StudStation& greatest = StationOfGreatestMoment(test.Stations);
+        plot.Marks.push_back(MarkAt(greatest.At, greatest.Moment, ", the greatest"));
     }
     return diagram;
 }
