@@ -94,7 +94,7 @@ std::string StudMomentWarning(const StudTest& test)
 {
     constexpr double rounding = 1e-5;
     const StudStation& greatest = StationOfGreatestMoment(test.Stations);
-    const double worked = test.Result.MaxMoment;
+    const float worked = test.Result.MaxMoment;
     if (std::abs(greatest.Moment) <= worked * (1 + rounding)) {
         return {};
     }
