@@ -41,7 +41,7 @@ QRectF InUnits(const PageRect& rect)
 
 bool IsFailure(const PageText& text)
 {
-    return text.Style == PageStyle::Status && text.Text.starts_with("Fail");
+    return text.Style == PageStyle::Status && text.Text.find("Fail") != std::string::npos;
 }
 
 QRectF SignArea(const QRectF& status)

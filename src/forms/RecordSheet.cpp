@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 
 #include "forms/Kit.h"
 #include "forms/PagePainter.h"
@@ -15,9 +14,6 @@ namespace kordavan {
 namespace {
 
 constexpr double MostEnlarged = 1.3;
-
-/// The first cells of the blocks, by which the keyboard walks down the sheet.
-constexpr std::array<std::size_t, 5> BlockHeads{5, 7, 23, 12, 166};
 
 QString CellName(const PageText& text, int other)
 {
@@ -97,11 +93,11 @@ void RecordSheet::MakeCells()
         label->setTextFormat(Qt::PlainText);
         label->setObjectName(CellName(text, text.Label == 0 ? ++other : 0));
         label->setAlignment(AlignmentOf(text.Align));
-        const bool isHead = std::find(BlockHeads.begin(), BlockHeads.end(), text.Label) != BlockHeads.end();
-        label->setTextInteractionFlags(isHead ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
-                                              : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
+        label->setTextInteractionFlags(text.StartsBlock
+                                           ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                           : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
         label->installEventFilter(this);
-        label->setFocusPolicy(isHead ? Qt::StrongFocus : Qt::ClickFocus);
+        label->setFocusPolicy(text.StartsBlock ? Qt::StrongFocus : Qt::ClickFocus);
         label->show();
         cells.push_back({label, &text});
     }

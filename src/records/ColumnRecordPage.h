@@ -2,7 +2,6 @@
 
 #include "columns/ColumnSession.h"
 #include "columns/ColumnSheet.h"
-#include "records/DataRecordPage.h"
 #include "records/RecordPage.h"
 
 namespace kordavan {
