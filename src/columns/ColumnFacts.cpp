@@ -25,10 +25,9 @@ std::string EffectiveLength(std::string_view symbol, double inches)
 
 std::vector<std::string> WoodColumnFacts(const ColumnProblem& problem, Edition edition)
 {
-    std::vector<std::string> facts{"Axial load " + LoadText(problem.Reaction),
-                                   "Height " + PlainNumber(problem.ColumnHeight) + " ft",
-                                   EffectiveLength("Le1", problem.Le1()),
-                                   EffectiveLength("Le2", problem.Le2())};
+    std::vector<std::string> facts{
+        "Axial load " + LoadText(problem.Reaction), "Height " + PlainNumber(problem.ColumnHeight) + " ft",
+        EffectiveLength("Le1", problem.Le1()), EffectiveLength("Le2", problem.Le2())};
     if (const std::string_view year = EditionYear(edition); !year.empty()) {
         facts.push_back("NDS " + std::string(year));
     }

@@ -90,8 +90,8 @@ void ColumnPicks::keyPressEvent(QKeyEvent* event)
 
 void ColumnPicks::FocusNext(int step)
 {
-    const auto focused = std::find_if(places.begin(), places.end(),
-                                      [](const Place& place) { return place.Cell->hasFocus(); });
+    const auto focused =
+        std::find_if(places.begin(), places.end(), [](const Place& place) { return place.Cell->hasFocus(); });
     const auto count = static_cast<int>(places.size());
     for (int k = static_cast<int>(focused - places.begin()) + step; k >= 0 && k < count; k += step) {
         PickCell* const cell = places[static_cast<std::size_t>(k)].Cell;

@@ -26,9 +26,9 @@ struct ColumnVerdict {
     std::optional<double> Ratio{};  // 1 for the whole capacity; none leaves the bar out
 };
 
-/// What the selections of wood and steel columns have in common: the facts of the column at the head, a report
-/// that fades once the size in the boxes is another one, the verdict at the foot, and the ways to the criteria
-/// and to the record.
+/// What the selections of wood and steel columns have in common: the facts of the column at the head, a
+/// report that fades once the size in the boxes is another one, the verdict at the foot, and the ways to the
+/// criteria and to the record.
 class ColumnSelectionForm : public Form {
     Q_OBJECT
 

@@ -97,10 +97,8 @@ void FigureGrid::AddBlock(QGridLayout& grid, const ColumnReportBlock& block)
     int at = grid.rowCount();
     grid.addWidget(MakeHeading(block.Heading), at++, CaptionColumn, 1, NoteColumn + 1);
     for (const ColumnReportLine& shown : block.Lines) {
-        const Line line{.Caption = MakeText(),
-                        .Figure = MakeText(shown.Name),
-                        .Unit = MakeText(),
-                        .Note = MakeText()};
+        const Line line{
+            .Caption = MakeText(), .Figure = MakeText(shown.Name), .Unit = MakeText(), .Note = MakeText()};
         line.Figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         grid.addWidget(line.Caption, at, CaptionColumn);
         grid.addWidget(line.Figure, at, FigureColumn);

@@ -10,7 +10,7 @@
 #include "columns/ColumnFacts.h"
 #include "columns/SteelColumn.h"
 #include "columns/WoodColumnReport.h"
-#include "design/TestFaults.h"
+#include "design/MemberTestResult.h"
 #include "forms/ChoiceBox.h"
 #include "forms/ColumnPicks.h"
 #include "forms/FigureGrid.h"
@@ -143,8 +143,9 @@ Form10::Form10(Walk& theWalk)
     BuildBoxes();
     BuildReport(MakeReport(), WhatToDo);
     Body().addWidget(MakeNamedLabel("SelfWeightLine", NoSelfWeight));
-    QPushButton* const report = MakeButton(
-        {.Name = "StlColReportBut", .Tip = "Works out the size in the boxes and shows the report"}, "&Report");
+    QPushButton* const report =
+        MakeButton({.Name = "StlColReportBut", .Tip = "Works out the size in the boxes and shows the report"},
+                   "&Report");
     connect(report, &QPushButton::clicked, this, &Form10::OnReport);
     BuildFoot("CmdStlRecord", report);
     BuildMenus(Page);
@@ -235,8 +236,7 @@ void Form10::ShowPicks()
     for (std::size_t k = 0; k < PickRows.size(); ++k) {
         const PickRow& row = PickRows[k];
         const std::string& pickSize = SizeOf(Columns().SteelPicks, row);
-        const std::string name =
-            std::string(row.Spoken) + (pickSize.empty() ? ": none" : ", " + pickSize);
+        const std::string name = std::string(row.Spoken) + (pickSize.empty() ? ": none" : ", " + pickSize);
         shown.push_back({.Head = k < PipeHeads.size() ? std::string(PipeHeads[k]) : std::string{},
                          .Size = pickSize,
                          .Name = name,
@@ -260,7 +260,7 @@ void Form10::ShowTest()
     properties->Show(BlocksOf(texts));
     const bool passes = test->Result.Passes();
     ShowReport(test->Size + "   " + test->TypeAndGrade,
-               {.Status = std::string(passes ? StatusOk : StatusFail), .Passes = passes}, isOutdated);
+               {.Status = std::string(passes ? ColumnStatus::Ok : StatusFail), .Passes = passes}, isOutdated);
 }
 
 void Form10::OnPick(std::size_t index)

@@ -62,8 +62,8 @@ Form20::Form20(Walk& theWalk)
     BuildPicks();
     BuildBoxes();
     BuildReport(MakeReport(), WhatToDo);
-    QPushButton* const test =
-        MakeButton({.Name = "CmdTestCol", .Tip = "Tests the size in the boxes and shows the report"}, "&OK Test");
+    QPushButton* const test = MakeButton(
+        {.Name = "CmdTestCol", .Tip = "Tests the size in the boxes and shows the report"}, "&OK Test");
     connect(test, &QPushButton::clicked, this, &Form20::OnTest);
     BuildFoot("CmdColRecord", test);
     BuildMenus(Page);
@@ -113,7 +113,8 @@ NumericBox* Form20::MakeBox(const ControlText& text, std::string& bound)
 
 void Form20::BuildBoxes()
 {
-    thickness = MakeBox({.Name = "ColD1Text", .Tip = "Thickness D1 to test, net inches"}, Columns().ColD1Text);
+    thickness =
+        MakeBox({.Name = "ColD1Text", .Tip = "Thickness D1 to test, net inches"}, Columns().ColD1Text);
     NumericBox* const width =
         MakeBox({.Name = "ColD2Text", .Tip = "Width D2 to test, net inches"}, Columns().ColD2Text);
     noneWorks = new NoteLine("NoneWorkLabel", " ", NoteKind::Alert);
