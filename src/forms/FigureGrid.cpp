@@ -100,6 +100,7 @@ void FigureGrid::AddBlock(QGridLayout& grid, const ColumnReportBlock& block)
         const Line line{
             .Caption = MakeText(), .Figure = MakeText(shown.Name), .Unit = MakeText(), .Note = MakeText()};
         line.Figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        line.Note->setWordWrap(true);
         grid.addWidget(line.Caption, at, CaptionColumn);
         grid.addWidget(line.Figure, at, FigureColumn);
         grid.addWidget(line.Unit, at, UnitColumn);

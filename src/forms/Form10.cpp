@@ -8,9 +8,9 @@
 #include <array>
 
 #include "columns/ColumnFacts.h"
+#include "columns/ColumnResult.h"
 #include "columns/SteelColumn.h"
 #include "columns/WoodColumnReport.h"
-#include "design/MemberTestResult.h"
 #include "forms/ChoiceBox.h"
 #include "forms/ColumnPicks.h"
 #include "forms/FigureGrid.h"
@@ -260,7 +260,7 @@ void Form10::ShowTest()
     properties->Show(BlocksOf(texts));
     const bool passes = test->Result.Passes();
     ShowReport(test->Size + "   " + test->TypeAndGrade,
-               {.Status = std::string(passes ? ColumnStatus::Ok : StatusFail), .Passes = passes}, isOutdated);
+               {.Status = std::string(passes ? ColumnStatus::Ok : ColumnStatus::Fail), .Passes = passes}, isOutdated);
 }
 
 void Form10::OnPick(std::size_t index)

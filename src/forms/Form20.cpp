@@ -138,6 +138,7 @@ QWidget* Form20::MakeReport()
     governing = MakePanel("ColumnGoverning");
     reason = new NoteLine("ColumnReason", " ", NoteKind::Alert);
     figures = new FigureGrid(ReportColumns);
+    figures->Show(ReportWoodColumn({}).Blocks);  // keeps the room of a report
     auto* const report = new QWidget;
     auto* const column = new QVBoxLayout(report);
     column->setContentsMargins(0, 0, 0, 0);
