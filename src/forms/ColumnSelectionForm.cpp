@@ -22,6 +22,8 @@ constexpr std::string_view OutdatedText = "Entries changed since.";
 
 constexpr double FadedOpacity = 0.45;
 
+constexpr int WidestBar = 50;
+
 void Enlarge(QLabel& label)
 {
     constexpr double larger = 1.3;
@@ -62,7 +64,9 @@ void ColumnSelectionForm::BuildReport(QWidget* report, std::string_view whatToDo
     auto* const page = new QWidget;
     auto* const column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
+    column->addSpacing(fontMetrics().height() / 4);
     column->addLayout(line);
+    column->addSpacing(fontMetrics().height() / 4);
     column->addWidget(report);
     column->addStretch(1);
     QLabel* const advice = MakeNamedLabel("WhatToDo", whatToDo);
@@ -100,7 +104,9 @@ void ColumnSelectionForm::BuildFoot(std::string_view select, QPushButton* test)
     line->addWidget(status);
     line->addSpacing(DigitsWidth(*this, 2));
     line->addWidget(ratioText);
-    line->addWidget(ratioBar, 1);
+    ratioBar->setMaximumWidth(DigitsWidth(*this, WidestBar));
+    line->addWidget(ratioBar, 2);
+    line->addStretch(1);
     KeepPlace(*verdictLine);
     LetFade(*verdictLine);
     Foot().addWidget(verdictLine, 1);

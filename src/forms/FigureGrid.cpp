@@ -36,7 +36,7 @@ QLabel* MakeText(std::string_view name = {})
 
 }  // namespace
 
-FigureGrid::FigureGrid(std::size_t columns) : columnCount(columns), row(new QHBoxLayout(this))
+FigureGrid::FigureGrid(std::size_t count) : columnCount(count), row(new QHBoxLayout(this))
 {
     row->setContentsMargins(0, 0, 0, 0);
 }
@@ -53,6 +53,7 @@ void FigureGrid::Show(const std::vector<ColumnReportBlock>& blocks)
             ShowLine(lines[next++], line);
         }
     }
+    GiveRoomToNotes();
 }
 
 /// The blocks keep their order and fill the columns about evenly.
@@ -62,34 +63,46 @@ void FigureGrid::Build(const std::vector<ColumnReportBlock>& blocks)
     lines.clear();
     table = new QWidget;
     row->addWidget(table);
-    auto* const columns = new QHBoxLayout(table);
+    columns = new QHBoxLayout(table);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(DigitsWidth(*this, 4));
     const std::size_t total = ShapeOf(blocks).size();
     std::size_t placed = 0;
     QGridLayout* grid = nullptr;
     for (std::size_t k = 0, column = 0; k < blocks.size(); ++k) {
-        if (grid == nullptr || placed * columnCount >= total * column) {
-            grid = AddColumn(*columns);
+        const std::size_t height = blocks[k].Lines.size() + 1;
+        if (grid == nullptr || (2 * placed + height) * columnCount >= 2 * total * column) {
+            grid = AddColumn();
             ++column;
         }
         AddBlock(*grid, blocks[k]);
-        placed += blocks[k].Lines.size() + 1;
+        placed += height;
     }
 }
 
-QGridLayout* FigureGrid::AddColumn(QHBoxLayout& columns)
+QGridLayout* FigureGrid::AddColumn()
 {
     auto* const grid = new QGridLayout;
     grid->setHorizontalSpacing(DigitsWidth(*this, 1));
-    grid->setVerticalSpacing(2);
+    grid->setVerticalSpacing(4);
     grid->setColumnMinimumWidth(FigureColumn, DigitsWidth(*this, FigureDigits));
     grid->setColumnStretch(NoteColumn, 1);
     auto* const column = new QVBoxLayout;
     column->addLayout(grid);
     column->addStretch(1);
-    columns.addLayout(column, 1);
+    columns->addLayout(column, 1);
     return grid;
+}
+
+/// Columns whose figures have something said of them take the width that the others leave.
+void FigureGrid::GiveRoomToNotes()
+{
+    constexpr int mostRoom = 100;
+    for (const Line& line : lines) {
+        if (!line.Note->text().isEmpty()) {
+            columns->setStretch(line.Column, mostRoom);
+        }
+    }
 }
 
 void FigureGrid::AddBlock(QGridLayout& grid, const ColumnReportBlock& block)
@@ -97,8 +110,11 @@ void FigureGrid::AddBlock(QGridLayout& grid, const ColumnReportBlock& block)
     int at = grid.rowCount();
     grid.addWidget(MakeHeading(block.Heading), at++, CaptionColumn, 1, NoteColumn + 1);
     for (const ColumnReportLine& shown : block.Lines) {
-        const Line line{
-            .Caption = MakeText(), .Figure = MakeText(shown.Name), .Unit = MakeText(), .Note = MakeText()};
+        const Line line{.Caption = MakeText(),
+                        .Figure = MakeText(shown.Name),
+                        .Unit = MakeText(),
+                        .Note = MakeText(),
+                        .Column = columns->count() - 1};
         line.Figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         line.Note->setWordWrap(true);
         grid.addWidget(line.Caption, at, CaptionColumn);
@@ -108,7 +124,7 @@ void FigureGrid::AddBlock(QGridLayout& grid, const ColumnReportBlock& block)
         lines.push_back(line);
         ++at;
     }
-    grid.setRowMinimumHeight(at, fontMetrics().height() / 2);
+    grid.setRowMinimumHeight(at, fontMetrics().height());
 }
 
 void FigureGrid::ShowLine(const Line& line, const ColumnReportLine& shown)

@@ -18,7 +18,8 @@ class FigureGrid : public QWidget {
     Q_OBJECT
 
 public:
-    explicit FigureGrid(std::size_t columns);
+    /// @param count  of the columns
+    explicit FigureGrid(std::size_t count);
 
     void Show(const std::vector<ColumnReportBlock>& blocks);
 
@@ -28,16 +29,19 @@ private:
         QLabel* Figure;
         QLabel* Unit;
         QLabel* Note;
+        int Column;
     };
 
     void Build(const std::vector<ColumnReportBlock>& blocks);
-    QGridLayout* AddColumn(QHBoxLayout& columns);
+    QGridLayout* AddColumn();
     void AddBlock(QGridLayout& grid, const ColumnReportBlock& block);
+    void GiveRoomToNotes();
     static void ShowLine(const Line& line, const ColumnReportLine& shown);
 
     std::size_t columnCount;
     QHBoxLayout* row;
     QWidget* table = nullptr;
+    QHBoxLayout* columns = nullptr;
     std::vector<std::string> built;  // headings and names of the lines that have been made
     std::vector<Line> lines;
 };

@@ -39,7 +39,7 @@ constexpr std::string_view NoSizeTip = "No further size of this kind carries the
 constexpr int PickDigits = 18;
 constexpr int SizeDigits = 18;
 constexpr int GradeDigits = 46;
-constexpr std::size_t ReportColumns = 2;
+constexpr std::size_t ReportColumns = 3;
 
 /// A quick pick by its button and kind.
 struct PickRow {
@@ -95,19 +95,22 @@ struct PropertyRow {
     std::string_view Unit;
 };
 
-constexpr std::array ColumnProperties{
+constexpr std::array LoadProperties{
     PropertyRow{"Reaction", "StlReaction", "Reaction", "lb"},
-    PropertyRow{"K", "StlK", "K", ""},
     PropertyRow{"unbraced, in.", "StlUnbraced", "Unbraced length", "in."},
+    PropertyRow{"K", "StlK", "K", ""},
+};
+
+constexpr std::array SectionProperties{
     PropertyRow{"Actual O.D.", "StlOutside", "Actual O.D.", "in."},
     PropertyRow{"Wt. p/ft.", "StlWeight", "Weight", "lb/ft"},
     PropertyRow{"r", "StlRadius", "Radius of gyration r", "in."},
 };
 
-constexpr std::array StressProperties{
+constexpr std::array SteelProperties{
     PropertyRow{"Fy", "StlFy", "Yield stress Fy", "ksi"},
     PropertyRow{"E", "StlE", "Modulus of elasticity E", "million psi"},
-    PropertyRow{"Cc", "StlCc", "Limit of the column formula Cc", ""},
+    PropertyRow{"Cc", "StlCc", "Limit of inelastic buckling Cc", ""},
     PropertyRow{"Fa", "StlFa", "Allowable stress Fa", "ksi"},
 };
 
@@ -127,7 +130,8 @@ ColumnReportBlock BlockOf(std::string_view heading, const std::array<PropertyRow
 
 std::vector<ColumnReportBlock> BlocksOf(const std::vector<SteelReportLine>& texts)
 {
-    return {BlockOf("Column", ColumnProperties, texts), BlockOf("Steel", StressProperties, texts)};
+    return {BlockOf("Load and bracing", LoadProperties, texts), BlockOf("Section", SectionProperties, texts),
+            BlockOf("Steel", SteelProperties, texts)};
 }
 
 }  // namespace
@@ -211,9 +215,9 @@ void Form10::BuildBoxes()
     line->addSpacing(DigitsWidth(*this, 2));
     line->addWidget(MakeCaption("T&ype and grade", *grade));
     line->addWidget(grade);
-    line->addStretch(1);
+    line->addSpacing(DigitsWidth(*this, 2));
+    line->addWidget(noneWorks, 1);
     Body().addLayout(line);
-    Body().addWidget(noneWorks);
 }
 
 QWidget* Form10::MakeReport()
@@ -225,7 +229,7 @@ QWidget* Form10::MakeReport()
     auto* const column = new QVBoxLayout(report);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(checks);
-    column->addSpacing(fontMetrics().height() / 2);
+    column->addSpacing(fontMetrics().height());
     column->addWidget(properties);
     return report;
 }
@@ -260,7 +264,8 @@ void Form10::ShowTest()
     properties->Show(BlocksOf(texts));
     const bool passes = test->Result.Passes();
     ShowReport(test->Size + "   " + test->TypeAndGrade,
-               {.Status = std::string(passes ? ColumnStatus::Ok : ColumnStatus::Fail), .Passes = passes}, isOutdated);
+               {.Status = std::string(passes ? ColumnStatus::Ok : ColumnStatus::Fail), .Passes = passes},
+               isOutdated);
 }
 
 void Form10::OnPick(std::size_t index)

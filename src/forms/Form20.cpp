@@ -144,6 +144,7 @@ QWidget* Form20::MakeReport()
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(governing);
     column->addWidget(reason);
+    column->addSpacing(fontMetrics().height() / 2);
     column->addWidget(figures);
     return report;
 }

@@ -26,8 +26,10 @@ enum Column {
     BarColumn
 };
 
+constexpr int CaptionDigits = 20;
 constexpr int FigureDigits = 10;
 constexpr int StatusDigits = 6;
+constexpr int WidestBar = 50;
 
 /// The texts of a check by their meaning in the report, and the names of the panels that show them.
 struct CheckNames {
@@ -70,6 +72,7 @@ SteelChecks::SteelChecks() : grid(new QGridLayout(this))
     setObjectName(QStringLiteral("SteelChecks"));
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(DigitsWidth(*this, 1));
+    grid->setColumnMinimumWidth(CaptionColumn, DigitsWidth(*this, CaptionDigits));
     AddHeadings();
     for (std::size_t index = 0; index < CheckCount; ++index) {
         AddRow(index);
@@ -130,6 +133,7 @@ void SteelChecks::AddRow(std::size_t index)
     row.Ratio = AddFigure(names.RatioPanel, caption + ", ratio", line, RatioColumn);
     row.PassSign = new StatusSign(Text(names.StatusPanel) + QStringLiteral("Sign"));
     row.Bar = new RatioBar(Text(names.RatioPanel) + QStringLiteral("Bar"));
+    row.Bar->setMaximumWidth(DigitsWidth(*this, WidestBar));
     row.Bar->setAccessibleName(Text(caption + ", ratio"));
     grid->addWidget(row.PassSign, line, SignColumn, Qt::AlignVCenter);
     grid->addWidget(row.Bar, line, BarColumn, Qt::AlignVCenter);
