@@ -216,7 +216,7 @@ void Form10::BuildBoxes()
     line->addWidget(MakeCaption("T&ype and grade", *grade));
     line->addWidget(grade);
     line->addSpacing(DigitsWidth(*this, 2));
-    line->addWidget(noneWorks, 1);
+    line->addWidget(noneWorks, 1, Qt::AlignVCenter);
     Body().addLayout(line);
 }
 

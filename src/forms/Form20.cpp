@@ -129,7 +129,7 @@ void Form20::BuildBoxes()
     line->addWidget(width);
     line->addWidget(MakeLabel("in."));
     line->addSpacing(DigitsWidth(*this, 4));
-    line->addWidget(noneWorks, 1);
+    line->addWidget(noneWorks, 1, Qt::AlignVCenter);
     Body().addLayout(line);
 }
 

@@ -29,7 +29,7 @@ enum Column {
 constexpr int CaptionDigits = 20;
 constexpr int FigureDigits = 10;
 constexpr int StatusDigits = 6;
-constexpr int WidestBar = 50;
+constexpr int BarDigits = 40;
 
 /// The texts of a check by their meaning in the report, and the names of the panels that show them.
 struct CheckNames {
@@ -81,7 +81,7 @@ SteelChecks::SteelChecks() : grid(new QGridLayout(this))
         grid->setColumnMinimumWidth(column, DigitsWidth(*this, FigureDigits));
     }
     grid->setColumnMinimumWidth(StatusColumn, DigitsWidth(*this, StatusDigits));
-    grid->setColumnStretch(BarColumn, 1);
+    grid->setColumnStretch(BarColumn + 1, 1);
 }
 
 void SteelChecks::Show(const SteelColumnTest& test, const std::vector<SteelReportLine>& texts)
@@ -133,7 +133,7 @@ void SteelChecks::AddRow(std::size_t index)
     row.Ratio = AddFigure(names.RatioPanel, caption + ", ratio", line, RatioColumn);
     row.PassSign = new StatusSign(Text(names.StatusPanel) + QStringLiteral("Sign"));
     row.Bar = new RatioBar(Text(names.RatioPanel) + QStringLiteral("Bar"));
-    row.Bar->setMaximumWidth(DigitsWidth(*this, WidestBar));
+    row.Bar->setMinimumWidth(DigitsWidth(*this, BarDigits));
     row.Bar->setAccessibleName(Text(caption + ", ratio"));
     grid->addWidget(row.PassSign, line, SignColumn, Qt::AlignVCenter);
     grid->addWidget(row.Bar, line, BarColumn, Qt::AlignVCenter);
