@@ -230,6 +230,19 @@ TEST_F(WoodColumnFormTest, TheTestedSizeGoesOnRecordAndStaysOnShow)
     EXPECT_FALSE(IsOn("CmdColRecord"));
 }
 
+TEST_F(WoodColumnFormTest, TabRunsAsOneReads)
+{
+    OpenBraced();
+    Press("ColDep[1]");
+    std::vector<std::string> stops;
+    do {
+        stops.push_back(FocusName());
+        Key(Qt::Key_Tab);
+    } while (FocusName() != "ColDep[1]" && stops.size() < 20);
+    EXPECT_THAT(stops, ElementsAre("ColDep[1]", "ColDep[2]", "ColDep[3]", "ColDep[4]", "ColD1Text",
+                                   "ColD2Text", "CmdColRecord", "CmdTestCol"));
+}
+
 TEST_F(WoodColumnFormTest, EscapeLeadsBackToTheCriteria)
 {
     OpenBraced();
