@@ -63,7 +63,8 @@ SteelColumnProblem ReadSteelColumnProblem(const ColumnEntry& entry)
 {
     return {.Reaction = Val(entry.cReacText),
             .UnbracedLength = Val(entry.cD1text) * InchesPerFoot,
-            .K = Val(entry.cModeText)};
+            .K = Val(entry.cModeText),
+            .ColumnHeight = Val(entry.cHTtext)};
 }
 
 SteelColumnResult WorkOutSteelColumn(const SteelColumnProblem& problem, std::size_t row)

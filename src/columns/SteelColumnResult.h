@@ -12,6 +12,7 @@ struct SteelColumnProblem {
     double Reaction = 0;        // lb
     double UnbracedLength = 0;  // in., in both planes
     double K = 0;               // none
+    double ColumnHeight{};      // ft; documented, not reckoned with
 };
 
 /// The first suitable size of each kind as the quick picks show it; empty where none works.
