@@ -34,10 +34,14 @@ struct PageFigures {
 /// The tables on the left of a column's page; the picture stands on their right.
 inline constexpr double ColumnTableWidth = 330;
 
+/// Where a second table begins on the right half of the page.
+inline constexpr double RightTableLeft = 292;
+
 /// The columns of figures of a table, from its left edge.
-inline constexpr double FirstFigureLeft = 136;
-inline constexpr double SecondFigureLeft = 190;
-inline constexpr double FigureWidth = 50;
+inline constexpr double FirstFigureLeft = 124;
+inline constexpr double SecondFigureLeft = 178;
+inline constexpr double FirstFigureWidth = 50;
+inline constexpr double SecondFigureWidth = 58;
 
 /// Heads the page's tables with what the column is and what it was designed by.
 void WriteColumnTitle(PageWriter& writer, const PageCell& member, const PageCell& attributes);

@@ -6,9 +6,6 @@ namespace kordavan {
 
 namespace {
 
-/// Where a second table begins on the right half of the page.
-constexpr double RightTableLeft = 292;
-
 /// Lays out the cells of one sheet.
 class ColumnPage {
 public:
@@ -87,8 +84,9 @@ private:
         writer.StartBlock();
         WriteChecks(writer,
                     {{"Compression Fc', fc, psi", Cell(83), Cell(82), {}, Cell(84)},
-                     {"Slenderness le/d, plane D1", Cell(68), Cell(61), Cell(69)},
-                     {"Slenderness le/d, plane D2", {}, Cell(67)}},
+                     {"Slenderness le/d, plane D1", {}, Cell(61)},
+                     {"Slenderness le/d, plane D2", {}, Cell(67)},
+                     {"le/d of both planes", Cell(68), {}, Cell(69)}},
                     options);
         writer.Rule(ColumnTableWidth);
     }
@@ -130,6 +128,7 @@ private:
         row({"Fc* (without Cp) and E'", Cell(71), Cell(70)}, {});
     }
 
+    /// An empty one stands last, where it leaves no gap.
     void WriteConstructionNotes()
     {
         if (!sheet.SheathNote.empty() || !sheet.Sheathnote2.empty()) {
@@ -138,9 +137,19 @@ private:
             writer.Text(0, "Bracing and fastening", WholePageWidth, PageStyle::ColumnHead);
             writer.NextLine();
         }
-        writer.NamedCell("SheathNote", sheet.SheathNote, WholePageWidth, PageStyle::Figure);
-        writer.NextLine();
-        writer.NamedCell("Sheathnote2", sheet.Sheathnote2, WholePageWidth, PageStyle::Figure);
+        const bool isSecondFirst = sheet.SheathNote.empty();
+        if (isSecondFirst) {
+            WriteNote("Sheathnote2", sheet.Sheathnote2);
+        }
+        WriteNote("SheathNote", sheet.SheathNote);
+        if (!isSecondFirst) {
+            WriteNote("Sheathnote2", sheet.Sheathnote2);
+        }
+    }
+
+    void WriteNote(std::string_view name, std::string_view text)
+    {
+        writer.NamedCell(name, text, WholePageWidth, PageStyle::Figure);
         writer.NextLine();
     }
 
