@@ -339,7 +339,6 @@ TEST(HostileFiles, GiveStudsThatListsCanShow)
         ++shown;
         ASSERT_LT(static_cast<std::size_t>(columns.Stud.BreadthCombo), StudBreadths.size());
         ASSERT_LT(static_cast<std::size_t>(columns.Stud.DepthCombo), StudDepths.size());
-        ReadStudProblem(columns.Stud);
         const PackedRecord again = MakeStudRecord({columns.Identity, columns.Stud, notes});
         ASSERT_TRUE(ReadStudRecord(again).Entry == columns.Stud) << "round " << round;
     }
