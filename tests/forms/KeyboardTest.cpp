@@ -129,8 +129,8 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
     }
     for (const Screen screen :
          {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
-          Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram,
-          Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
+          Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
+          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
     for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
@@ -154,8 +154,8 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
     for (const Screen screen :
          {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
           Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::WoodColumnRecord,
-          Screen::SteelColumnRecord, Screen::StudRecord}) {
+          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::WoodColumns,
+          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
