@@ -27,6 +27,7 @@ constexpr double HeadLength = 0.45;
 constexpr double StudWidth = 0.25;
 constexpr double LineWidth = 0.08;
 
+constexpr int LeastArrows = 2;           // a caption stands between them
 constexpr double LeastBlockShare = 0.5;  // of a row, for the smallest wind
 constexpr float BlockTint = 0.22F;
 
@@ -108,7 +109,7 @@ private:
         painter.setPen(QPen(colors.Load, LineWidth * line));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(where);
-        const int count = std::max(1, static_cast<int>(where.width() / (ArrowPitch * line)));
+        const int count = std::max(LeastArrows, static_cast<int>(where.width() / (ArrowPitch * line)));
         for (int k = 0; k < count; ++k) {
             DrawArrow(where, where.left() + (k + 0.5) * where.width() / count, block.Psf < 0);
         }
@@ -129,9 +130,8 @@ private:
 
     void DrawCaption(const WindBlock& block, const QRectF& where)
     {
-        const std::string words = std::string(1, block.Letter) + " " +
-                                  PlainNumber(static_cast<float>(block.Psf)) +
-                                  (block.Psf < 0 ? " suction" : "");
+        const std::string words =
+            std::string(1, block.Letter) + " " + PlainNumber(static_cast<float>(block.Psf));
         const double width = painter.fontMetrics().horizontalAdvance(Text(words)) + line / 2;
         const QRectF patch(where.center().x() - width / 2, where.center().y() - line / 2, width, line);
         painter.fillRect(patch, ground);
