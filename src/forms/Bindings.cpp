@@ -51,6 +51,15 @@ void Bindings::Bind(QComboBox& list, std::string& text)
     });
 }
 
+void Bindings::Bind(QComboBox& list, int& position)
+{
+    connect(&list, &QComboBox::activated, this, [this, &list, &position](int index) {
+        position = index;
+        Q_EMIT Edited(list.objectName());
+    });
+    shows.emplace_back([&list, &position] { list.setCurrentIndex(position); });
+}
+
 void Bindings::Show() const
 {
     for (const auto& show : shows) {
