@@ -14,6 +14,7 @@
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
+#include "batch/WoodColumnTask.h"
 #include "records/DataSheetFill.h"
 
 namespace kordavan {
@@ -100,6 +101,7 @@ struct TaskRow {
 
 constexpr std::array Tasks{
     TaskRow{"beam", AnswerBeam},
+    TaskRow{"column", AnswerColumn},
     TaskRow{"hip-valley", AnswerHipValley},
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},

@@ -43,10 +43,11 @@ struct ColumnResult {
     double SlendernessD2 = 0;
     bool SlendernessOver50 = false;  // which fails by itself
     ColumnFactors Factors;
-    float EPrime = 0;  // psi
-    float FcStar = 0;  // psi, all factors but Cp
-    float FcE = 0;     // psi; 0 when neither plane can buckle
-    float KcE = 0;     // coefficient of E'/(le/d)^2; 0 when neither plane can buckle
+    bool CarriesSizeFactor = false;  // CF is that of the size before: the table has no such width
+    float EPrime = 0;                // psi
+    float FcStar = 0;                // psi, all factors but Cp
+    float FcE = 0;                   // psi; 0 when neither plane can buckle
+    float KcE = 0;                   // coefficient of E'/(le/d)^2; 0 when neither plane can buckle
     float Cp1 = 1;
     float Cp2 = 1;
     double Area = 0;      // in^2
@@ -57,7 +58,7 @@ struct ColumnResult {
 
 namespace ColumnStatus {
 inline constexpr std::string_view Ok = "OK";
-inline constexpr std::string_view Fails = "Fails";
+inline constexpr std::string_view Fail = "Fail";
 }  // namespace ColumnStatus
 
 }  // namespace kordavan

@@ -26,7 +26,7 @@ struct ColumnReportBlock {
 struct WoodColumnReport {
     std::string Member;     // such as "(2) 2x 6 nailed built-up column, DF-L #2"
     std::string Governing;  // which plane governs and why, in a sentence
-    std::string Status;     // "OK" or "Fails"
+    std::string Status;     // "OK" or "Fail"
     std::string Reason;     // why it fails, in a sentence; empty when it passes
     double Ratio = 0;       // fc / Fc'; 0 where there is none
     std::string RatioText;
