@@ -98,8 +98,7 @@ std::string NextAxialDuration(const std::string& text)
 
 Outcome OfferNewColumn(ColumnSession& columns, const std::string& unsaved, UserPort& user)
 {
-    if (!unsaved.empty() &&
-        !user.Ask(RiskyQuestion("These are not saved: " + unsaved + ". Begin a new column without them?"))) {
+    if (!unsaved.empty() && !user.Ask(RiskyQuestion(unsaved + "\n\nBegin a new column?"))) {
         return Outcome::Refused;
     }
     StartNewColumn(columns);
@@ -109,9 +108,8 @@ Outcome OfferNewColumn(ColumnSession& columns, const std::string& unsaved, UserP
 Outcome OfferToOpenStud(const ColumnSession& columns, UserPort& user)
 {
     const bool isUnsaved = columns.Stud != columns.KeptStud;
-    const bool mayOpen =
-        !isUnsaved || user.Ask(RiskyQuestion("The entries of the stud are not saved. Open another without "
-                                             "them?"));
+    const bool mayOpen = !isUnsaved || user.Ask(RiskyQuestion("The entries of the stud have not been "
+                                                              "saved.\n\nOpen another in their place?"));
     return mayOpen ? Outcome::Done : Outcome::Refused;
 }
 
