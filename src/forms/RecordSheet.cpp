@@ -17,6 +17,9 @@ constexpr double MostEnlarged = 1.3;
 
 QString CellName(const PageText& text, int other)
 {
+    if (!text.Name.empty()) {
+        return Text(text.Name);
+    }
     return text.Label == 0 ? QStringLiteral("Line%1").arg(other) : QStringLiteral("Label%1").arg(text.Label);
 }
 

@@ -54,15 +54,22 @@ void PageWriter::Text(std::size_t label, std::string_view text, const PageColumn
                           .StartsBlock = std::exchange(startsBlock, false)});
 }
 
+void PageWriter::NamedCell(std::string_view name, std::string_view text, const PageColumn& column,
+                           PageStyle style)
+{
+    Text(0, text, column, style);
+    page.Texts.back().Name = name;
+}
+
 void PageWriter::NextLine(double lines)
 {
     top += lines * LineHeight;
 }
 
-void PageWriter::Rule()
+void PageWriter::Rule(double width)
 {
     top += RuleGap;
-    page.Rules.push_back({PageMargin, top, PageContentWidth});
+    page.Rules.push_back({PageMargin, top, width});
     top += RuleGap;
 }
 

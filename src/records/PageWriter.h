@@ -39,8 +39,11 @@ public:
     /// @param label  0 for a text that is no cell
     void Text(std::size_t label, std::string_view text, const PageColumn& column, PageStyle style);
 
+    /// A cell that goes by a name.
+    void NamedCell(std::string_view name, std::string_view text, const PageColumn& column, PageStyle style);
+
     void NextLine(double lines = 1);
-    void Rule();
+    void Rule(double width = PageContentWidth);
 
 private:
     std::span<const std::string> cells;

@@ -26,6 +26,7 @@ struct PageText {
     PageRect Area;
     PageAlign Align = PageAlign::Left;
     PageStyle Style = PageStyle::Figure;
+    std::string Name{};        // of a cell that goes by a name instead
     bool StartsBlock = false;  // where the keyboard stops on its way down the page
 };
 
