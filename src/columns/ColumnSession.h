@@ -33,6 +33,12 @@ struct ColumnIdentity {
     bool operator==(const ColumnIdentity&) const = default;
 };
 
+/// The heading that was entered to print a column's record, which heads no other column.
+struct EnteredHeading {
+    ColumnIdentity Column;
+    RecordHeading Heading;
+};
+
 /// The columns at work beside a beam, from their entries to the sizes tested last.
 struct ColumnSession {
     ColumnFace Face = ColumnFace::Wood;
@@ -56,8 +62,8 @@ struct ColumnSession {
     std::optional<StudTest> StudRun;
     StudEntry KeptStud;  // the stud as last saved or loaded
 
-    RecordHeading Heading;  // of the records, as entered for printing
-    bool HeaderChanged = false;
+    RecordHeading Heading;  // of the record to be printed, as its boxes hold it
+    std::optional<EnteredHeading> HeaderChanged;
     ColumnRecordOnShow WoodRecord;
     ColumnRecordOnShow SteelRecord;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "columns/ColumnSheet.h"
 #include "core/Message.h"
@@ -19,22 +20,24 @@ PackedRecord MakeColumnRecord(const ColumnSheet& sheet, ColumnRecordKind kind, b
 /// Refuses a record whose tag is not that of the kind.
 Outcome CheckColumnRecordTag(const PackedRecord& record, ColumnRecordKind kind, UserPort& user);
 
+/// Refuses a file of another kind: what it is not, and which extensions the kinds have.
+Outcome RefuseColumnFile(std::string_view what, UserPort& user);
+
 /// The sheet of a record with the right tag.
 ColumnSheet ReadColumnSheet(const PackedRecord& record, ColumnRecordKind kind);
 
 /// Says what may be done with a record that was loaded.
 void TellColumnRecordLoaded(ColumnRecordKind kind, UserPort& user);
 
-/// Asks whether the notes are to be saved too, where there are any or not; true for Yes.
+/// Asks whether the notes are to be saved too, whether there are any or not; true for Yes.
 bool AskToSaveColumnNotes(UserPort& user);
-bool AskToSaveStudNotes(UserPort& user);
 
 /// Saves the sheet and tells the name of the file. A fault is told, and leaves the old file whole.
 Outcome SaveColumnRecord(const ColumnSheet& sheet, ColumnRecordKind kind, bool withNotes,
                          const std::string& path, UserPort& user);
 
-/// Reads the sheet of a file. One that cannot be read, or that holds another record, is refused with nothing
-/// changed.
+/// Reads the sheet of a file and says what may be done with it. One that cannot be read, or that holds
+/// another record, is refused with nothing changed.
 Outcome OpenColumnRecord(const std::string& path, ColumnRecordKind kind, ColumnSheet& sheet, UserPort& user);
 
 const FileDialogText& SaveColumnDialog(ColumnRecordKind kind);

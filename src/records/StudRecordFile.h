@@ -25,13 +25,16 @@ StudRecord ReadStudRecord(const PackedRecord& record);
 /// Says what may be done with a record that was loaded.
 void TellStudRecordLoaded(UserPort& user);
 
-/// Saves the entries of the stud face and tells the name of the file. A fault is told, and leaves the old
-/// file whole.
+/// Asks whether the notes are to be saved too, whether there are any or not; true for Yes.
+bool AskToSaveStudNotes(UserPort& user);
+
+/// Saves the entries of the stud face with the notes, or blank ones, and tells the name of the file. A fault
+/// is told, and leaves the old file whole.
 Outcome SaveStudRecord(ColumnSession& columns, const ReportNoteLines& notes, const std::string& path,
                        UserPort& user);
 
-/// Fills the stud face from a file; the last run of another stud is withdrawn. One that cannot be read, or
-/// that holds another record, is refused with nothing changed.
+/// Fills the stud face from a file and says what may be done with it; the last run of another stud is
+/// withdrawn. One that cannot be read, or that holds another record, is refused with nothing changed.
 /// @param notes  replaced where the record has any
 Outcome OpenStudRecord(const std::string& path, ColumnSession& columns, ReportNoteLines& notes,
                        UserPort& user);
