@@ -14,6 +14,7 @@
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
+#include "batch/SteelColumnTask.h"
 #include "batch/WoodColumnTask.h"
 #include "records/DataSheetFill.h"
 
@@ -105,6 +106,7 @@ constexpr std::array Tasks{
     TaskRow{"hip-valley", AnswerHipValley},
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},
+    TaskRow{"steel-column", AnswerSteelColumn},
     TaskRow{"steel-scan", AnswerSteelScan},
     TaskRow{"write-record", AnswerWriteRecord},
 };

@@ -9,13 +9,12 @@ namespace kordavan {
 
 /// A steel column as the calculation reads its entries.
 struct SteelColumnProblem {
-    double Reaction = 0;        // lb
-    double UnbracedLength = 0;  // in., in both planes
-    double K = 0;               // none
-    double ColumnHeight{};      // ft; documented, not reckoned with
+    float Reaction = 0;        // lb
+    float UnbracedLength = 0;  // in., in both planes
+    float K = 0;               // none
 };
 
-/// The lightest suitable size of each kind as the quick picks show it; empty where none works.
+/// The first suitable size of each kind as the quick picks show it; empty where none works.
 struct SteelColumnPicks {
     static constexpr std::size_t TubeCount = 3;
 
@@ -30,18 +29,28 @@ struct SteelColumnPicks {
 
 /// One steel size, tested.
 struct SteelColumnResult {
-    std::size_t Row = 0;      // of the catalogue
-    double Fy = 0;            // ksi
-    double Cc = 0;            // none
-    double KLoverR = 0;       // none
-    double Fa = 0;            // ksi
-    double RequiredArea = 0;  // in^2
-    double ActualStress = 0;  // ksi
+    std::size_t Row = 0;     // of the catalogue
+    float Fy = 0;            // ksi
+    float Cc = 0;            // none
+    float KLoverR = 0;       // none
+    float Fa = 0;            // ksi
+    float RequiredArea = 0;  // in^2
+    float ActualStress = 0;  // ksi
     bool SlendernessPasses = false;
     bool AreaPasses = false;
 
     bool Passes() const { return SlendernessPasses && AreaPasses; }
 };
+
+namespace SteelColumnStatus {
+inline constexpr std::string_view Ok = "OK";
+inline constexpr std::string_view Fail = "Fail";
+}  // namespace SteelColumnStatus
+
+constexpr std::string_view SteelStatusText(bool passes)
+{
+    return passes ? SteelColumnStatus::Ok : SteelColumnStatus::Fail;
+}
 
 /// The last report of a steel size: what it was of, and what came out.
 struct SteelColumnTest {
