@@ -15,6 +15,7 @@
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
 #include "batch/SteelColumnTask.h"
+#include "batch/StudTask.h"
 #include "batch/WoodColumnTask.h"
 #include "records/DataSheetFill.h"
 
@@ -108,6 +109,7 @@ constexpr std::array Tasks{
     TaskRow{"select", AnswerSelection},
     TaskRow{"steel-column", AnswerSteelColumn},
     TaskRow{"steel-scan", AnswerSteelScan},
+    TaskRow{"stud", AnswerStud},
     TaskRow{"write-record", AnswerWriteRecord},
 };
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "design/Stability.h"
+
 namespace kordavan {
 
 namespace {
@@ -27,8 +29,7 @@ double EulerColumnCoefficient(bool isNds2005Plus)
 {
     constexpr double ofE = 0.3;
     constexpr double ofEmin = 0.822;
-    constexpr double EminOverE = 0.3653;
-    return isNds2005Plus ? EminOverE * ofEmin : ofE;
+    return isNds2005Plus ? VisualEminOverE * ofEmin : ofE;
 }
 
 double ColumnStabilityFactor(double ratio)

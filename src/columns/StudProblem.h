@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace kordavan {
 
@@ -55,9 +56,28 @@ struct StudColumnProblem {
     std::string SpeciesGrade;
 };
 
-/// Net sizes by list position, in.
-inline constexpr std::array StudBreadths{1.5F, 2.5F, 3.5F, 3.0F, 4.5F, 6.0F};
-inline constexpr std::array StudDepths{3.5F, 5.5F, 7.25F};
+/// A size as its list offers it.
+struct StudSize {
+    std::string_view Name;
+    float Net;  // in.
+};
+
+/// Sizes by list position; a breadth of several pieces stands for studs side by side.
+inline constexpr std::array StudBreadths{
+    StudSize{"2x", 1.5F},     StudSize{"3x", 2.5F},     StudSize{"4x", 3.5F},
+    StudSize{"(2) 2x", 3.0F}, StudSize{"(3) 2x", 4.5F}, StudSize{"(4) 2x", 6.0F},
+};
+inline constexpr std::array StudDepths{StudSize{"4", 3.5F}, StudSize{"6", 5.5F}, StudSize{"8", 7.25F}};
+
+/// The sizes chosen in the lists; a position that does not exist counts as the first.
+const StudSize& StudBreadthOf(const StudEntry& entry);
+const StudSize& StudDepthOf(const StudEntry& entry);
+
+/// "A", "B" and "C".
+constexpr char WindLetter(std::size_t load)
+{
+    return static_cast<char>('A' + load);
+}
 
 /// Numbers of the entries; a text that is none reads as 0. Nothing is checked.
 StudColumnProblem ReadStudProblem(const StudEntry& entry);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "columns/StudProblem.h"
+#include "core/NdsEdition.h"
 
 namespace kordavan {
 
@@ -13,9 +14,9 @@ inline constexpr std::size_t StudStationCount = 201;
 
 /// One place along the stud.
 struct StudStation {
-    float At = 0;                                    // ft from the base
-    std::array<float, WindLoadCount> Contributions;  // moment that each load takes off, ft-lb
-    float Moment = 0;                                // ft-lb
+    float At = 0;                                      // ft from the base
+    std::array<float, WindLoadCount> Contributions{};  // moment that each load takes off, ft-lb
+    float Moment = 0;                                  // ft-lb
 };
 
 using StudStationTable = std::array<StudStation, StudStationCount>;
@@ -59,6 +60,7 @@ inline constexpr std::string_view Fails = "Fails";
 struct StudTest {
     StudEntry Entry;
     StudColumnProblem Problem;
+    Edition Nds = Edition::None;
     StudStationTable Stations{};
     StudResult Result;
 };

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "columns/StudFactors.h"
+#include "columns/StudMoment.h"
+#include "columns/StudProblem.h"
+#include "columns/StudResult.h"
+#include "core/NdsEdition.h"
+
+namespace kordavan {
+
+/// Strength of a stud as a column across its depth and as a beam under wind: NDS 3.6.3 and 3.7.1, 3.9.2, and
+/// the buckling stress of 3.3.3. The axial load is held against the strength without duration of load, the
+/// interaction against that with it.
+StudResult WorkOutStud(const StudColumnProblem& problem, const StudFactors& factors, const StudMoment& moment,
+                       Edition edition);
+
+/// Whether every figure is a number; without it the result says nothing.
+bool IsFinite(const StudResult& result);
+
+}  // namespace kordavan
