@@ -31,7 +31,7 @@ std::string ReactionText(const Session& beam, bool isSecond)
 
 std::string LastTestText(const std::string& member, bool passes)
 {
-    return "Tested last: " + member + ", " + std::string(passes ? ColumnStatus::Ok : ColumnStatus::Fails);
+    return "Tested last: " + member + ", " + std::string(passes ? ColumnStatus::Ok : ColumnStatus::Fail);
 }
 
 std::string WoodLine(const ColumnSession& columns, Edition edition)

@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "columns/ColumnCriteria.h"
 #include "forms/ColumnHelp.h"
 #include "forms/Form.h"
 #include "forms/ReactionFrame.h"

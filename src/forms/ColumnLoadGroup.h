@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "columns/ColumnCriteria.h"
 #include "columns/ColumnScreen.h"
 #include "columns/ColumnSession.h"
 #include "forms/EntryGroup.h"

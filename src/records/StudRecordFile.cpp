@@ -62,7 +62,7 @@ constexpr std::array<std::pair<std::string_view, bool StudEntry::*>, 2> Checks{{
 }};
 
 template <std::size_t Count>
-int PositionIn(const std::array<float, Count>& list, int position)
+int PositionIn(const std::array<StudSize, Count>& list, int position)
 {
     return std::cmp_less(position, list.size()) && position >= 0 ? position : 0;
 }
