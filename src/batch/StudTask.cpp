@@ -14,6 +14,7 @@
 #include "batch/FloatFields.h"
 #include "columns/StudColumn.h"
 #include "columns/StudCriteria.h"
+#include "columns/StudStrength.h"
 
 namespace kordavan {
 
@@ -145,7 +146,7 @@ void WriteResult(const StudResult& result, AnswerWriter& answer)
     constexpr float none = std::numeric_limits<float>::quiet_NaN();
     answer.BeginObject("result");
     WriteFields(result, FieldsToInteraction, answer);
-    answer.Field("Interaction", result.Interaction.value_or(none));
+    answer.Field("Interaction", InteractionOf(result).value_or(none));
     answer.Field("RB", result.RB);
     answer.Field("FbE", result.FbE);
     answer.Field("Status", result.Passes() ? StudStatus::Adequate : StudStatus::Fails);

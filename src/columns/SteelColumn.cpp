@@ -63,7 +63,8 @@ SteelColumnProblem ReadSteelColumnProblem(const ColumnEntry& entry)
 {
     return {.Reaction = Single(Val(entry.cReacText)),
             .UnbracedLength = Single(Val(entry.cD1text) * InchesPerFoot),
-            .K = Single(Val(entry.cModeText))};
+            .K = Single(Val(entry.cModeText)),
+            .ColumnHeight = Single(Val(entry.cHTtext))};
 }
 
 SteelColumnResult WorkOutSteelColumn(const SteelColumnProblem& problem, std::size_t row)

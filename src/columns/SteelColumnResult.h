@@ -12,6 +12,7 @@ struct SteelColumnProblem {
     float Reaction = 0;        // lb
     float UnbracedLength = 0;  // in., in both planes
     float K = 0;               // none
+    float ColumnHeight{};      // ft; documented, not reckoned with
 };
 
 /// The first suitable size of each kind as the quick picks show it; empty where none works.

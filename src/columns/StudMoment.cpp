@@ -89,7 +89,7 @@ std::string StudMomentWarning(const StudTest& test)
     const auto greatest = std::max_element(
         test.Stations.begin(), test.Stations.end(),
         [](const StudStation& a, const StudStation& b) { return std::abs(a.Moment) < std::abs(b.Moment); });
-    const double worked = test.Result.MaxMoment;
+    const float worked = test.Result.MaxMoment;
     if (std::abs(greatest->Moment) <= worked * (1 + rounding)) {
         return {};
     }

@@ -68,17 +68,12 @@ private:
         result.FbActual = Single(result.MaxMoment * InchesPerFoot / S);
     }
 
-    /// NDS equation 3.9-3.
     void Combine()
     {
-        if (result.FcActual >= result.FcE) {
-            result.InteractionFails = true;
-            return;
+        if (result.FcActual < result.FcE) {
+            result.Interaction = InteractionOf(result);
         }
-        const double axial = double{result.FcActual} / result.FcPrime;
-        const double growth = 1 - double{result.FcActual} / result.FcE;
-        result.Interaction = Single(axial * axial + result.FbActual / (result.FbPrime * growth));
-        result.InteractionFails = result.Interaction > 1;
+        result.InteractionFails = !result.Interaction || *result.Interaction > 1;
     }
 
     void CheckBendingStability()
@@ -102,6 +97,16 @@ StudResult WorkOutStud(const StudColumnProblem& problem, const StudFactors& fact
                        Edition edition)
 {
     return StudStrength(problem, factors, edition).Run(moment);
+}
+
+std::optional<float> InteractionOf(const StudResult& result)
+{
+    const double axial = double{result.FcActual} / result.FcPrime;
+    const double growth = 1 - double{result.FcActual} / result.FcE;
+    if (growth == 0) {
+        return std::nullopt;
+    }
+    return Single(axial * axial + result.FbActual / (result.FbPrime * growth));
 }
 
 bool IsFinite(const StudResult& result)

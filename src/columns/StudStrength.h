@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "columns/StudFactors.h"
 #include "columns/StudMoment.h"
 #include "columns/StudProblem.h"
@@ -13,6 +15,10 @@ namespace kordavan {
 /// interaction against that with it.
 StudResult WorkOutStud(const StudColumnProblem& problem, const StudFactors& factors, const StudMoment& moment,
                        Edition edition);
+
+/// NDS equation 3.9-3 as it stands, of a result's stresses. Beyond FcE it still gives a figure, which says
+/// nothing of a stud that axial load alone buckles; none at FcE.
+std::optional<float> InteractionOf(const StudResult& result);
 
 /// Whether every figure is a number; without it the result says nothing.
 bool IsFinite(const StudResult& result);

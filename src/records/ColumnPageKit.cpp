@@ -4,8 +4,8 @@ namespace kordavan {
 
 namespace {
 
-constexpr PageColumn StatusColumn{246, 44, PageAlign::Left};
-constexpr PageColumn RatioColumn{290, 40};
+constexpr PageColumn StatusColumn{250, 42, PageAlign::Left};
+constexpr PageColumn RatioColumn{292, 38};
 
 /// A cell is on the page even while it is empty; a text of no number is not.
 void Write(PageWriter& writer, const PageCell& cell, const PageColumn& column, PageStyle style)
@@ -19,8 +19,8 @@ void WriteRow(PageWriter& writer, const PageFigures& row, double left, PageStyle
               PageStyle figureStyle)
 {
     Write(writer, {0, std::string(row.Caption)}, {left, FirstFigureLeft, PageAlign::Left}, captionStyle);
-    Write(writer, row.First, {left + FirstFigureLeft, FigureWidth}, figureStyle);
-    Write(writer, row.Second, {left + SecondFigureLeft, FigureWidth}, figureStyle);
+    Write(writer, row.First, {left + FirstFigureLeft, FirstFigureWidth}, figureStyle);
+    Write(writer, row.Second, {left + SecondFigureLeft, SecondFigureWidth}, figureStyle);
 }
 
 }  // namespace

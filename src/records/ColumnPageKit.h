@@ -35,9 +35,10 @@ struct PageFigures {
 inline constexpr double ColumnTableWidth = 330;
 
 /// The columns of figures of a table, from its left edge.
-inline constexpr double FirstFigureLeft = 136;
-inline constexpr double SecondFigureLeft = 190;
-inline constexpr double FigureWidth = 50;
+inline constexpr double FirstFigureLeft = 124;
+inline constexpr double SecondFigureLeft = 178;
+inline constexpr double FirstFigureWidth = 50;
+inline constexpr double SecondFigureWidth = 58;
 
 /// Heads the page's tables with what the column is and what it was designed by.
 void WriteColumnTitle(PageWriter& writer, const PageCell& member, const PageCell& attributes);

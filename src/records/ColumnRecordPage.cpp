@@ -130,6 +130,7 @@ private:
         row({"Fc* (without Cp) and E'", Cell(71), Cell(70)}, {});
     }
 
+    /// An empty one stands last, where it leaves no gap.
     void WriteConstructionNotes()
     {
         if (!sheet.SheathNote.empty() || !sheet.Sheathnote2.empty()) {
@@ -138,9 +139,19 @@ private:
             writer.Text(0, "Bracing and fastening", WholePageWidth, PageStyle::ColumnHead);
             writer.NextLine();
         }
-        writer.NamedCell("SheathNote", sheet.SheathNote, WholePageWidth, PageStyle::Figure);
-        writer.NextLine();
-        writer.NamedCell("Sheathnote2", sheet.Sheathnote2, WholePageWidth, PageStyle::Figure);
+        const bool isSecondFirst = sheet.SheathNote.empty();
+        if (isSecondFirst) {
+            WriteNote("Sheathnote2", sheet.Sheathnote2);
+        }
+        WriteNote("SheathNote", sheet.SheathNote);
+        if (!isSecondFirst) {
+            WriteNote("Sheathnote2", sheet.Sheathnote2);
+        }
+    }
+
+    void WriteNote(std::string_view name, std::string_view text)
+    {
+        writer.NamedCell(name, text, WholePageWidth, PageStyle::Figure);
         writer.NextLine();
     }
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view LengthFormat = "#,##0.0##";
 constexpr std::string_view FactorFormat = "0.00#";
-constexpr std::string_view SlendernessFormat = "#,##0.0#";
+constexpr std::string_view SlendernessFormat = "#,##0.00";
 constexpr std::string_view StabilityFormat = "0.000";
 constexpr std::string_view NailPlies =
     "Nail per NDS 15.3.3: from alternate faces, 3/4 or more into the last ply.";
@@ -90,8 +90,8 @@ void FillGeometry(const WoodColumnTest& test, ColumnSheet& sheet)
     sheet[29] = CellNumber(problem.UnbracedD2, LengthFormat);
     sheet[30] = CellNumber(result.D1, LengthFormat);
     sheet[36] = CellNumber(result.D2, LengthFormat);
-    sheet[55] = CellNumber(problem.Le1(), SlendernessFormat);
-    sheet[60] = CellNumber(problem.Le2(), SlendernessFormat);
+    sheet[55] = CellNumber(problem.Le1(), "#,##0.0");
+    sheet[60] = CellNumber(problem.Le2(), "#,##0.0");
     sheet[61] = CellNumber(result.SlendernessD1, SlendernessFormat);
     sheet[67] = CellNumber(result.SlendernessD2, SlendernessFormat);
     sheet[68] = CellNumber(MostColumnSlenderness, "0");
