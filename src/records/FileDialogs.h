@@ -39,6 +39,19 @@ inline constexpr FileDialogText SaveCustomValuesDialog{.Title = "Save Custom Val
                                                        .Filters = CustomValuesFilters,
                                                        .SelectedFilter = 2};
 
+inline constexpr std::string_view CustomPostFilters = "All Files (*.*)|*.*|Kordavan Files (*.CPV)|*.CPV|";
+
+inline constexpr FileDialogText OpenCustomPostDialog{.Title = "Open Custom Post Value File",
+                                                     .FileName = "*.CPV",
+                                                     .DefaultExtension = {},
+                                                     .Filters = CustomPostFilters,
+                                                     .SelectedFilter = 2};
+inline constexpr FileDialogText SaveCustomPostDialog{.Title = "Save Custom Values As",
+                                                     .FileName = "*.CPV",
+                                                     .DefaultExtension = "CPV",
+                                                     .Filters = CustomPostFilters,
+                                                     .SelectedFilter = 2};
+
 inline constexpr std::string_view DataRecordFilters = "All Files (*.*)|*.*|Kordavan Files (*.Dat)|*.Dat|";
 
 inline constexpr FileDialogText OpenDataRecordDialog{.Title = "Open Data Record",
