@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "columns/ColumnChecks.h"
 #include "columns/ColumnProblem.h"
 #include "columns/ColumnSession.h"
 #include "core/Message.h"
@@ -10,10 +11,6 @@
 #include "design/Session.h"
 
 namespace kordavan {
-
-/// The checks of a column's entries in their order; the first that fails is told, names its box and ends
-/// them. A "0" in plane D1 marks the plane as fully braced. A steel column has the first five alone.
-Outcome ValidateColumnProblem(ColumnEntry& entry, ColumnFace face, UserPort& user);
 
 /// Takes the picked name with its base values. "Custom" clears the values for entry; a name without values in
 /// the group keeps what stands there.
@@ -32,14 +29,15 @@ struct ReactionChoice {
     bool IsDoubled = false;
 };
 
-/// Takes a reaction of the beam as the axial load; refused while nothing has been calculated.
+/// Takes a reaction of the beam as the axial load: with the weight of the member tested last, or of the
+/// applied loads while none is. Refused while nothing has been calculated.
 Outcome ImportReaction(const Session& beam, const ReactionChoice& choice, ColumnEntry& entry, UserPort& user);
 
 /// The OK command of the wood face: checks the entries and searches the grid of sizes; a size tested before
-/// is withdrawn. A refusal changes nothing.
+/// is withdrawn. A refusal changes nothing but the mark of a braced plane D1.
 Outcome CalculateWoodColumn(ColumnSession& columns, Edition edition, UserPort& user);
 
-/// A blank column; the faces, identity of the project and records stay.
+/// A blank column of every kind, without searches and tests; face, project and records stay.
 void StartNewColumn(ColumnSession& columns);
 
 }  // namespace kordavan

@@ -61,10 +61,10 @@ std::string FirstOf(const std::vector<std::string_view>& sizes)
 
 SteelColumnProblem ReadSteelColumnProblem(const ColumnEntry& entry)
 {
-    return {.Reaction = Single(Val(entry.cReacText)),
-            .UnbracedLength = Single(Val(entry.cD1text) * InchesPerFoot),
-            .K = Single(Val(entry.cModeText)),
-            .ColumnHeight = Single(Val(entry.cHTtext))};
+    return {.Reaction = Val(entry.cReacText),
+            .UnbracedLength = Val(entry.cD1text) * InchesPerFoot,
+            .K = Val(entry.cModeText),
+            .ColumnHeight = Val(entry.cHTtext)};
 }
 
 SteelColumnResult WorkOutSteelColumn(const SteelColumnProblem& problem, std::size_t row)
@@ -75,7 +75,7 @@ SteelColumnResult WorkOutSteelColumn(const SteelColumnProblem& problem, std::siz
     result.Row = row;
     result.Fy = steel.Fy;
     result.Cc = steel.Cc;
-    result.KLoverR = Single(double{problem.K} * problem.UnbracedLength / size.Radius);
+    result.KLoverR = Single(problem.K * problem.UnbracedLength / size.Radius);
     result.SlendernessPasses = result.KLoverR <= GreatestSteelSlenderness;
 
     const double Fa = AllowableStress(result.KLoverR, steel);

@@ -9,10 +9,10 @@ namespace kordavan {
 
 /// A steel column as the calculation reads its entries.
 struct SteelColumnProblem {
-    float Reaction = 0;        // lb
-    float UnbracedLength = 0;  // in., in both planes
-    float K = 0;               // none
-    float ColumnHeight{};      // ft; documented, not reckoned with
+    double Reaction = 0;        // lb
+    double UnbracedLength = 0;  // in., in both planes
+    double K = 0;               // none
+    double ColumnHeight{};      // ft; documented, not reckoned with
 };
 
 /// The first suitable size of each kind as the quick picks show it; empty where none works.
@@ -28,7 +28,7 @@ struct SteelColumnPicks {
     bool operator==(const SteelColumnPicks&) const = default;
 };
 
-/// One steel size, tested.
+/// One steel size, tested. Figures are held in single precision, so that a limit typed in decimals is met.
 struct SteelColumnResult {
     std::size_t Row = 0;     // of the catalogue
     float Fy = 0;            // ksi

@@ -87,8 +87,7 @@ const HelpText Service{
 const HelpText Types{
     "TypeHelp", "How a column is made up",
     "TYPE OF COLUMN\n\n"
-    "Solid Sawn 6x+: timbers, 6x and larger. Choose Post and Timber or Beam and Stringer values for them; "
-    "there are no sizes to search with Dimension Lumber values.\n"
+    "Solid Sawn 6x+: timbers, 6x and larger. Choose Post and Timber or Beam and Stringer values for them.\n"
     "Solid Sawn 2x or 4x: one piece of dimension lumber.\n"
     "Nailed Built-up 2xs, Bolted Built-up 2xs: two to five 2x members of equal width, side by side over the "
     "full height of the column, with their wide faces in contact and fastened as NDS 15.3.3 (nails) or "

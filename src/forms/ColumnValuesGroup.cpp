@@ -126,6 +126,7 @@ void ColumnValuesGroup::AddSpecies()
     });
     connect(species, &SpeciesBox::Picked, this, [this](const QString& name) { Pick(Text(name)); });
     auto* const line = new QHBoxLayout;
+    line->setSpacing(Grid().horizontalSpacing());
     line->addWidget(MakeCaption("Sp&ecies and grade", *species));
     line->addWidget(species, 1);
     Grid().addLayout(line, SpeciesLine, FirstColumn, 1, HelpColumn);
@@ -143,6 +144,7 @@ void ColumnValuesGroup::AddValues()
     NumericBox* const e = AddNumber({.Name = "cEtext", .Tip = "Base E in millions of psi, such as 1.6"},
                                     ValueDigits, columns.Entry.cEtext);
     auto* const line = new QHBoxLayout;
+    line->setSpacing(Grid().horizontalSpacing());
     for (const auto& [caption, box, unit] :
          {std::tuple{"Fc", fc, "psi"}, std::tuple{"E", e, "million psi"}}) {
         line->addWidget(MakeCaption(caption, *box));
@@ -159,6 +161,7 @@ void ColumnValuesGroup::AddValues()
 void ColumnValuesGroup::AddCommands()
 {
     auto* const line = new QHBoxLayout;
+    line->setSpacing(Grid().horizontalSpacing());
     const auto add = [&](const ControlText& text, std::string_view caption, auto signal) {
         QPushButton* const button = MakeButton(text, caption);
         connect(button, &QPushButton::clicked, this, signal);

@@ -16,7 +16,7 @@ constexpr double AxialRoom = 9;
 constexpr double BelowRoom = 5;
 constexpr double StudHeight = 0.8;
 constexpr double SupportHeight = 0.7;
-constexpr double MostRow = 6;
+constexpr double MostRow = 8;
 constexpr double ArrowPitch = 1.8;
 constexpr double Tick = 0.25;
 
@@ -97,14 +97,14 @@ void StudPainter::DrawStud(const StudPicture& picture)
              colors.Faint);
     DrawEnd(left, QStringLiteral("base"));
     DrawEnd(right, QStringLiteral("top"));
-    const double y = stud.bottom() + 1.9 * line;
+    const double y = stud.bottom() + 1.7 * line;
     const QRectF words(left, y, right - left, line);
     if (picture.Height <= 0) {
         painter.setPen(colors.Faint);
         painter.drawText(words, Qt::AlignCenter, QStringLiteral("Enter a height"));
     } else {
         painter.setPen(QPen(colors.Line, 1));
-        const double middle = words.center().y() - 0.8 * line;
+        const double middle = stud.bottom() + 1.3 * line;
         DrawDimension(painter, {left, middle}, {right, middle}, Tick * line);
         painter.drawText(words, Qt::AlignCenter, Text(picture.HeightText));
     }
@@ -119,7 +119,7 @@ void StudPainter::DrawEnd(double x, const QString& name)
     painter.setPen(QPen(colors.Line, 1));
     painter.drawPolygon(QPolygonF{{x, y}, {x - half, y + 2 * half}, {x + half, y + 2 * half}});
     painter.setPen(colors.Text);
-    painter.drawText(QRectF(x - 3 * line, y + 2 * half + 0.9 * line, 6 * line, line), Qt::AlignCenter, name);
+    painter.drawText(QRectF(x - 3 * line, y + 1.7 * line, 6 * line, line), Qt::AlignCenter, name);
 }
 
 void StudPainter::DrawAxial(const StudPicture& picture)

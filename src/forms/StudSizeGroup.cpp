@@ -80,6 +80,7 @@ void StudSizeGroup::AddSize()
     Shared().Boxes.Bind(*breadth, entry.BreadthCombo);
     Shared().Boxes.Bind(*depth, entry.DepthCombo);
     auto* const line = new QHBoxLayout;
+    line->setSpacing(Grid().horizontalSpacing());
     line->addWidget(breadth);
     line->addWidget(depth);
     line->addStretch(1);

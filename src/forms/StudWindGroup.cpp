@@ -89,6 +89,7 @@ void StudWindGroup::AddRepetitive()
 void StudWindGroup::AddFiles()
 {
     auto* const line = new QHBoxLayout;
+    line->setSpacing(Grid().horizontalSpacing());
     const auto add = [&](const ControlText& text, std::string_view caption, auto signal) {
         QPushButton* const button = MakeButton(text, caption);
         connect(button, &QPushButton::clicked, this, signal);

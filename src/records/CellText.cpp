@@ -8,11 +8,15 @@ namespace kordavan {
 
 namespace {
 
-/// By a power of ten. A mantissa that rounds up to 10 is left as it is: it reads the same.
 std::string PowerText(double value, std::size_t length)
 {
-    const double power = std::floor(std::log10(std::abs(value)));
-    const double mantissa = value / std::pow(10.0, power);
+    constexpr double tenths = 10;
+    double power = std::floor(std::log10(std::abs(value)));
+    double mantissa = std::round(value / std::pow(10.0, power) * tenths) / tenths;
+    if (std::abs(mantissa) >= 10) {
+        mantissa /= 10;
+        ++power;
+    }
     const std::string tail = "E" + FormatNumber(power, "0");
     const std::string fine = FormatNumber(mantissa, "0.0") + tail;
     return fine.size() <= length ? fine : FormatNumber(mantissa, "0") + tail;

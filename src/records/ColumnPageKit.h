@@ -34,6 +34,9 @@ struct PageFigures {
 /// The tables on the left of a column's page; the picture stands on their right.
 inline constexpr double ColumnTableWidth = 330;
 
+/// Where a second table begins on the right half of the page.
+inline constexpr double RightTableLeft = 292;
+
 /// The columns of figures of a table, from its left edge.
 inline constexpr double FirstFigureLeft = 124;
 inline constexpr double SecondFigureLeft = 178;

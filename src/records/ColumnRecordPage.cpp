@@ -6,9 +6,6 @@ namespace kordavan {
 
 namespace {
 
-/// Where a second table begins on the right half of the page.
-constexpr double RightTableLeft = 292;
-
 /// Lays out the cells of one sheet.
 class ColumnPage {
 public:
@@ -87,8 +84,9 @@ private:
         writer.StartBlock();
         WriteChecks(writer,
                     {{"Compression Fc', fc, psi", Cell(83), Cell(82), {}, Cell(84)},
-                     {"Slenderness le/d, plane D1", Cell(68), Cell(61), Cell(69)},
-                     {"Slenderness le/d, plane D2", {}, Cell(67)}},
+                     {"Slenderness le/d, plane D1", {}, Cell(61)},
+                     {"Slenderness le/d, plane D2", {}, Cell(67)},
+                     {"le/d of both planes", Cell(68), {}, Cell(69)}},
                     options);
         writer.Rule(ColumnTableWidth);
     }

@@ -17,7 +17,7 @@ void WriteHeadText(PageWriter& writer, const PageHeadText& head, const PageColum
         writer.Text(head.Label, head.Text, column, PageStyle::Figure);
         return;
     }
-    constexpr double captionWidth = 58;
+    constexpr double captionWidth = 64;
     writer.Text(0, head.Caption, {column.Left, captionWidth, PageAlign::Left}, PageStyle::Caption);
     writer.Text(head.Label, head.Text,
                 {column.Left + captionWidth, column.Width - captionWidth, PageAlign::Left},

@@ -11,7 +11,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr double RightTableLeft = 292;
 constexpr std::string_view LengthFormat = "#,##0.0##";
 constexpr std::string_view LoadFormat = "#,##0.0";
 constexpr std::string_view FactorFormat = "0.00#";
@@ -117,7 +116,7 @@ private:
         writer.StartBlock();
         WriteChecks(
             writer,
-            {{"Slenderness le/d", Figure(greatestSlenderness, "0"), Figure(result.Slenderness, "#,##0.0"),
+            {{"Slenderness le/d", Figure(greatestSlenderness, "0"), Figure(result.Slenderness, "#,##0.00"),
               Status(result.SlendernessOver50), Percent(result.Slenderness, greatestSlenderness)},
              {"Axial load Pa, P, lb", Figure(result.AllowableAxial, LoadFormat), Figure(result.P, LoadFormat),
               Status(result.AxialFails), Percent(result.P, result.AllowableAxial)},
@@ -134,13 +133,13 @@ private:
 
     void WriteWind()
     {
-        constexpr std::array<double, 4> lefts{90, 146, 216, 276};
-        const auto row = [this, &lefts](std::string_view name, const std::array<std::string, 4>& figures,
-                                        PageStyle nameStyle, PageStyle style) {
-            writer.Text(0, name, {0, lefts[0], PageAlign::Left}, nameStyle);
-            for (std::size_t k = 0; k < lefts.size(); ++k) {
+        constexpr std::array<PageColumn, 4> columns{{{64, 54}, {124, 70}, {200, 64}, {270, 60}}};
+        const auto row = [this, &columns](std::string_view name, const std::array<std::string, 4>& figures,
+                                          PageStyle nameStyle, PageStyle style) {
+            writer.Text(0, name, {0, columns[0].Left, PageAlign::Left}, nameStyle);
+            for (std::size_t k = 0; k < columns.size(); ++k) {
                 if (!figures[k].empty()) {
-                    writer.Text(0, figures[k], {lefts[k], 54}, style);
+                    writer.Text(0, figures[k], columns[k], style);
                 }
             }
             writer.NextLine();

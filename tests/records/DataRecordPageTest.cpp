@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
+#include "records/PageGeometry.h"
 
 namespace kordavan {
 namespace {
@@ -24,19 +24,9 @@ class RecordPageTest : public testing::TestWithParam<bool> {};
 TEST_P(RecordPageTest, HoldsEveryCellOnceWithinTheMargins)
 {
     const RecordPage page = LayOutDataRecord(FullSheet(), {.HighDpi = GetParam()});
-    std::map<std::size_t, int> times;
-    for (const PageText& text : page.Texts) {
-        ++times[text.Label];
-        EXPECT_GE(text.Area.Left, 36) << text.Label;
-        EXPECT_LE(text.Area.Left + text.Area.Width, page.Width - 36 + 1e-9) << text.Label;
-        EXPECT_LE(text.Area.Top + text.Area.Height, page.Height - 36) << text.Label;
-    }
-    times.erase(0);
-    for (const auto& [label, count] : times) {
-        EXPECT_EQ(count, 1) << label;
-    }
+    ExpectWithinMargins(page);
     constexpr std::size_t cellsOfTheSheet = 181;  // 194 numbers less the 13 that name no cell
-    EXPECT_EQ(times.size(), cellsOfTheSheet);
+    EXPECT_EQ(CellsOnce(page).size(), cellsOfTheSheet);
     ASSERT_TRUE(page.Diagram);
     EXPECT_EQ(page.Tints.empty(), !GetParam());
 }
@@ -46,16 +36,7 @@ INSTANTIATE_TEST_SUITE_P(Layouts, RecordPageTest, testing::Bool());
 TEST(RecordPage, TextsDoNotLieOnOneAnother)
 {
     const RecordPage page = LayOutDataRecord(FullSheet(), {});
-    for (std::size_t a = 0; a < page.Texts.size(); ++a) {
-        for (std::size_t b = a + 1; b < page.Texts.size(); ++b) {
-            const PageRect& one = page.Texts[a].Area;
-            const PageRect& other = page.Texts[b].Area;
-            const bool apart =
-                one.Left + one.Width <= other.Left + 1e-9 || other.Left + other.Width <= one.Left + 1e-9 ||
-                one.Top + one.Height <= other.Top + 0.1 || other.Top + other.Height <= one.Top + 0.1;
-            EXPECT_TRUE(apart) << page.Texts[a].Text << " and " << page.Texts[b].Text;
-        }
-    }
+    ExpectTextsApart(page);
 }
 
 TEST(RecordPage, WithoutNotesHasNoHeadingForThem)
