@@ -11,6 +11,8 @@
 #include "records/ColumnRecordLayout.h"
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
+#include "records/CustomPostFile.h"
+#include "records/CustomPostLayout.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
 #include "records/DataRecordFile.h"
@@ -68,6 +70,7 @@ constexpr std::array Kinds{
     RecordKind{"column", &WoodColumnRecordLayout, WoodColumnTag, CheckColumn<ColumnRecordKind::Wood>,
                TellColumn<ColumnRecordKind::Wood>},
     RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteria},
+    RecordKind{"custom-post", &CustomPostLayout, CustomPostTag, CheckCustomPost, TellNothing},
     RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValues, TellCustomValues},
     RecordKind{"data-record", &DataRecordLayout, DataRecordTag, CheckDataRecordTag, TellNothing},
     RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},

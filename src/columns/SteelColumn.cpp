@@ -10,8 +10,9 @@ namespace {
 
 constexpr double InchesPerFoot = 12;
 constexpr double PoundsPerKip = 1000;
-constexpr double Pi =
-    3.1416;  // four decimals, deliberately: allowable stresses agree with those of old sheets
+
+// Four decimals, deliberately: allowable stresses agree with those of old sheets.
+constexpr double Pi = 3.1416;
 
 constexpr std::string_view NoneWork =
     "None of the column sizes in the Kordavan database meet the requirements.";

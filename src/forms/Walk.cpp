@@ -23,6 +23,7 @@
 #include "forms/Form6.h"
 #include "forms/Form7.h"
 #include "forms/NumericBox.h"
+#include "records/ColumnDesk.h"
 #include "records/DefaultsFile.h"
 #include "records/RecentFiles.h"
 
@@ -189,7 +190,7 @@ Form* Walk::SeenForm(Screen screen) const
 
 void Walk::AskToExit()
 {
-    const Message question = ExitQuestion(session, desktop.MinutesSinceStart());
+    const Message question = ExitQuestion(session, desktop.MinutesSinceStart(), UnsavedColumnWork(columns));
     if (frontUser.Ask(question)) {
         desktop.EndProgram();
     }

@@ -12,7 +12,10 @@ namespace kordavan {
 /// person is asked for a file.
 Outcome CheckCustomPostSavable(const ColumnEntry& entry, UserPort& user);
 
+/// The values as a record; one that it cannot hold reads as 0.
 PackedRecord MakeCustomPostRecord(const ColumnEntry& entry);
+
+/// Refuses a record whose tag is not that of custom post values, or that holds an E that is no number.
 Outcome CheckCustomPost(const PackedRecord& record, UserPort& user);
 
 /// Replaces species, Fc and E by those of a checked record.

@@ -193,11 +193,14 @@ TEST_P(WholeRecordTest, IsWrittenAsItIsRead)
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, WholeRecordTest,
-    testing::Values(WholeRecordCase{"custom values", "custom-values", -1, std::string(CustomValuesFields),
-                                    CustomValuesBytes().All()},
-                    WholeRecordCase{"listed products", "scl", 113, SclFields(), SclBytes().All()},
-                    WholeRecordCase{"own products", "scl-custom", 2000, CustomSclFields(),
-                                    CustomSclBytes().All()}),
+    testing::Values(
+        WholeRecordCase{"custom post values", "custom-post", 100,
+                        R"("Fc":1450,"E":1.75,"SpeciesText":"Hackberry")",
+                        std::string("\x64\0\xAA\x05\0\0\xE0\x3F", 8) + "Hackberry" + std::string(21, ' ')},
+        WholeRecordCase{"custom values", "custom-values", -1, std::string(CustomValuesFields),
+                        CustomValuesBytes().All()},
+        WholeRecordCase{"listed products", "scl", 113, SclFields(), SclBytes().All()},
+        WholeRecordCase{"own products", "scl-custom", 2000, CustomSclFields(), CustomSclBytes().All()}),
     CaseName);
 
 TEST(WriteRecord, PutsTheCellsOfADataRecordAtTheirPlaces)
@@ -505,6 +508,8 @@ INSTANTIATE_TEST_SUITE_P(
     Fields, InvalidRecordFieldTest,
     testing::Values(
         InvalidFieldCase{"criteria", R"([])", "fields: an object is expected"},
+        InvalidFieldCase{"custom-post", R"({"Fc":32768})",
+                         "fields.Fc: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"criteria", R"({"Spam":1})", "fields.Spam: no such field"},
         InvalidFieldCase{"criteria", R"({"":1})", "fields.: no such field"},
         InvalidFieldCase{"criteria", R"({"DefCombo":1})", "fields.DefCombo: no such field"},

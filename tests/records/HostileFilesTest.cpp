@@ -11,6 +11,8 @@
 #include "records/CriteriaFile.h"
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
+#include "records/CustomPostFile.h"
+#include "records/CustomPostLayout.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
 #include "records/DataRecordFile.h"
@@ -252,6 +254,28 @@ TEST(HostileFiles, GiveCustomValuesThatCanBeSavedAgain)
         ASSERT_EQ(MakeCustomValuesRecord(session.Entry).UnfitBox, "");
     }
     EXPECT_GT(loaded, Rounds / 4);
+}
+
+TEST(HostileFiles, GivePostValuesThatCanBeSavedAgain)
+{
+    HostileFiles files;
+    int taken = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        const PackedRecord record(CustomPostLayout, files.AnyFile(60, CustomPostTag));
+        RefusingUser user;
+        if (CheckCustomPost(record, user) == Outcome::Refused) {
+            continue;
+        }
+        ++taken;
+        ColumnEntry entry;
+        RestoreCustomPost(record, entry);
+        ExpectNumberOrNothing(entry.cFcText);
+        ExpectNumberOrNothing(entry.cEtext);
+        ColumnEntry again;
+        RestoreCustomPost(MakeCustomPostRecord(entry), again);
+        ASSERT_EQ(again, entry) << "round " << round;
+    }
+    EXPECT_GT(taken, Rounds / 4);
 }
 
 TEST(HostileFiles, GiveSclValuesThatBoxesCanShow)
