@@ -24,7 +24,7 @@ StudAxialGroup::StudAxialGroup(const GroupContext& context, StudEntry& studEntry
 {
     AddLoads();
     AddDurations();
-    Grid().setColumnStretch(CaptionColumn, 1);
+    Grid().setColumnStretch(UnitColumn, 1);
     Grid().setRowStretch(LastLine, 1);
 }
 
@@ -48,10 +48,6 @@ void StudAxialGroup::AddDurations()
             AddNumber({.Name = "AxialDurTextbox", .Tip = "Duration of load factor of the axial load"},
                       FigureDigits, entry.AxialDurTextbox),
             {});
-    AddLine(WindDurationLine, "Duration, &wind",
-            AddNumber({.Name = "DurWindTextbox", .Tip = "Duration of load factor of the wind"}, FigureDigits,
-                      entry.DurWindTextbox),
-            {});
     QToolButton* const cycle = MakeCycle(
         {.Name = "AxialDurCycle", .Tip = "Next of the common factors: 1.0, 1.15, 1.25, 1.6 (Alt+1)"},
         QKeySequence(Qt::ALT | Qt::Key_1));
@@ -59,7 +55,11 @@ void StudAxialGroup::AddDurations()
         entry.AxialDurTextbox = NextAxialDuration(entry.AxialDurTextbox);
         Q_EMIT Changed();
     });
-    Grid().addWidget(cycle, AxialDurationLine, UnitColumn);
+    Grid().addWidget(cycle, AxialDurationLine, UnitColumn, Qt::AlignLeft);
+    AddLine(WindDurationLine, "Duration, &wind",
+            AddNumber({.Name = "DurWindTextbox", .Tip = "Duration of load factor of the wind"}, FigureDigits,
+                      entry.DurWindTextbox),
+            {});
     Grid().addWidget(Shared().Owner.MakeHelp(ColumnHelp::StudDuration,
                                              {"AxialDurTextbox", "AxialDurCycle", "DurWindTextbox"}),
                      AxialDurationLine, HelpColumn);

@@ -171,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(Checks, ColumnRefusalTest,
                                          RefusalCase{"FcTooLarge", "cFcText", "2500", "cFcText"},
                                          RefusalCase{"ETooSmall", "cEtext", "0.4", "cEtext"},
                                          RefusalCase{"NoSpecies", "ColSpeciesCombo", "", "ColSpeciesCombo"}),
-                         CaseName<RefusalCase>);
+                         CaseName);
 
 TEST_F(ColumnFormTest, AZeroInPlaneD1ChecksItsBoxEvenWhereTheRestIsRefused)
 {

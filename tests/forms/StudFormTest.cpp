@@ -189,7 +189,7 @@ TEST_P(StudRefusalTest, LeadsToItsBox)
 INSTANTIATE_TEST_SUITE_P(
     Checks, StudRefusalTest,
     testing::Values(StudRefusalCase{"NoHeight", "WindStudHt", "", "WindStudHt"},
-                    StudRefusalCase{"NoAxial", "AxialPLFtextbox", "", "AxialPointTextbox"},
+                    StudRefusalCase{"NoAxial", "AxialPLFtextbox", "", "AxialPLFtextbox"},
                     StudRefusalCase{"NoWind", "WindA", "", "WindA"},
                     StudRefusalCase{"NoEnd", "EndA", "", "EndA"},
                     StudRefusalCase{"NoBegOfB", "WindB", "5", "BegB"},
@@ -198,7 +198,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StudRefusalCase{"NoAxialDuration", "AxialDurTextbox", "", "AxialDurTextbox"},
                     StudRefusalCase{"NoWindDuration", "DurWindTextbox", "0", "DurWindTextbox"},
                     StudRefusalCase{"BeyondTop", "EndA", "8.5", "EndA"}),
-    CaseName<StudRefusalCase>);
+    CaseName);
 
 TEST_F(StudFormTest, KeepsAStudWithItsNotesInAFile)
 {
