@@ -193,7 +193,8 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
     }
     for (const Screen screen :
          {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Print,
-          Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram}) {
+          Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram,
+          Screen::WoodColumns, Screen::SteelColumns}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
 }
@@ -211,7 +212,8 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
     for (const Screen screen :
          {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
           Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns}) {
+          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns,
+          Screen::WoodColumns, Screen::SteelColumns}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
