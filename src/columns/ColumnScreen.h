@@ -2,11 +2,15 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "columns/ColumnSession.h"
 #include "design/Session.h"
 
 namespace kordavan {
+
+/// Said beside a result that is no longer that of the entries.
+inline constexpr std::string_view EntriesChanged = "Entries changed since.";
 
 /// What the column screen shows of a session besides the entries themselves.
 struct ColumnScreen {

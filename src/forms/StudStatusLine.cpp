@@ -13,7 +13,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view EntriesChanged = "Entries changed since.";
 constexpr std::string_view LongestWarning =
     "The moment goes to -10,000.0 ft-lb at 10.00 ft, beyond the 10,000.0 ft-lb that the check works with: "
     "check the stud by hand for it.";
