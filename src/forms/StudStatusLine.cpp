@@ -44,7 +44,8 @@ StudStatusLine::StudStatusLine()
 void StudStatusLine::ShowScreen(const ColumnScreen& screen)
 {
     fails = screen.HasStudRun && !screen.StudPasses;
-    const Sign outcome = screen.StudPasses ? Sign::Passes : Sign::Fails;
+    const Sign passes = screen.StudWarning.empty() ? Sign::Passes : Sign::Alert;
+    const Sign outcome = screen.StudPasses ? passes : Sign::Fails;
     sign->Show(screen.HasStudRun ? outcome : Sign::None);
     status->setText(Text(screen.StudStatusLabel));
     PaintStatus(*status, fails);

@@ -118,6 +118,7 @@ TEST_F(StudFormTest, SuctionIsNeverAdequateWithoutAWord)
     EnterStud();
     Type("WindA", "-20");
     Click("StudOKCalcbutton");
+    EXPECT_EQ(Find<StatusSign>("StudStatusSign").Shown(), Sign::Alert);
     EXPECT_TRUE(Find<QWidget>("StudWarningSign").isVisible());
     EXPECT_THAT(LabelText("StudWarning"), testing::HasSubstr("-213.3 ft-lb"));
 }
