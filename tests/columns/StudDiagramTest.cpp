@@ -29,8 +29,9 @@ StudTest StudWithPeaks(double first, double second, float checkedFor, float chec
 
 std::vector<std::string> MarksOf(const StudTest& test)
 {
+    const LoadDiagram diagram = ReadStudDiagram(test);
     std::vector<std::string> marks;
-    for (const CurveMark& mark : ReadStudDiagram(test).Plots[1].Marks) {
+    for (const CurveMark& mark : diagram.Plots[1].Marks) {
         marks.push_back(mark.Text);
     }
     return marks;
