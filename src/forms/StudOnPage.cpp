@@ -1,6 +1,5 @@
 #include "forms/StudOnPage.h"
 
-#include <QPolygonF>
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -10,6 +9,7 @@
 #include "core/NumberText.h"
 #include "forms/Kit.h"
 #include "forms/PlotPainter.h"
+#include "forms/SketchParts.h"
 
 namespace kordavan {
 
@@ -111,21 +111,14 @@ private:
         painter.drawRect(where);
         const int count = std::max(LeastArrows, static_cast<int>(where.width() / (ArrowPitch * line)));
         for (int k = 0; k < count; ++k) {
-            DrawArrow(where, where.left() + (k + 0.5) * where.width() / count, block.Psf < 0);
+            const double x = where.left() + (k + 0.5) * where.width() / count;
+            const QPointF outside(x, where.top());
+            const QPointF inside(x, where.bottom());
+            const bool isSuction = block.Psf < 0;
+            DrawArrow(painter, isSuction ? inside : outside, isSuction ? outside : inside, HeadLength * line,
+                      colors.Load);
         }
         DrawCaption(block, where);
-    }
-
-    /// Pressure points to the stud, suction away from it.
-    void DrawArrow(const QRectF& where, double x, bool isSuction)
-    {
-        const QPointF tip(x, isSuction ? where.top() : where.bottom());
-        const double length = std::min(HeadLength * line, where.height() / 2);
-        const QPointF back(0, isSuction ? length : -length);
-        const QPointF aside(length / 2, 0);
-        painter.drawLine(QPointF(x, where.top()), QPointF(x, where.bottom()));
-        painter.setBrush(colors.Load);
-        painter.drawPolygon(QPolygonF{tip, tip + back - aside, tip + back + aside});
     }
 
     void DrawCaption(const WindBlock& block, const QRectF& where)
