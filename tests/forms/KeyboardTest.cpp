@@ -145,11 +145,10 @@ QString SpokenName(const QWidget& control)
 
 TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
-    for (const Screen screen :
-         {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
-          Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::WoodColumns,
-          Screen::SteelColumns}) {
+    for (const Screen screen : {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection,
+                                Screen::OwnSelection, Screen::TestReport, Screen::Record, Screen::Print,
+                                Screen::Settings, Screen::Notes, Screen::Calculator, Screen::OverhangDiagram,
+                                Screen::LoadDiagram, Screen::WoodColumns, Screen::SteelColumns}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
