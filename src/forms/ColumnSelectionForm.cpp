@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "columns/ColumnScreen.h"
 #include "forms/RatioBar.h"
 #include "forms/StatusColor.h"
 #include "forms/StatusSign.h"
@@ -17,8 +18,6 @@
 namespace kordavan {
 
 namespace {
-
-constexpr std::string_view OutdatedText = "Entries changed since.";
 
 constexpr double FadedOpacity = 0.45;
 
@@ -56,7 +55,7 @@ void ColumnSelectionForm::BuildReport(QWidget* report, std::string_view whatToDo
     auto* const mark = new QHBoxLayout(outdatedMark);
     mark->setContentsMargins(0, 0, 0, 0);
     mark->addWidget(new StatusSign(QStringLiteral("OutdatedSign"), Sign::Alert));
-    mark->addWidget(MakeNamedLabel("OutdatedLabel", OutdatedText));
+    mark->addWidget(MakeNamedLabel("OutdatedLabel", EntriesChanged));
     KeepPlace(*outdatedMark);
     auto* const line = new QHBoxLayout;
     line->addWidget(memberLine, 1);
