@@ -83,18 +83,23 @@ StudMoment ComputeStudMoment(const StudColumnProblem& problem)
     return moment;
 }
 
+const StudStation& StationOfGreatestMoment(const StudStationTable& stations)
+{
+    return *std::max_element(
+        stations.begin(), stations.end(),
+        [](const StudStation& a, const StudStation& b) { return std::abs(a.Moment) < std::abs(b.Moment); });
+}
+
 std::string StudMomentWarning(const StudTest& test)
 {
     constexpr double rounding = 1e-5;
-    const auto greatest = std::max_element(
-        test.Stations.begin(), test.Stations.end(),
-        [](const StudStation& a, const StudStation& b) { return std::abs(a.Moment) < std::abs(b.Moment); });
+    const StudStation& greatest = StationOfGreatestMoment(test.Stations);
     const float worked = test.Result.MaxMoment;
-    if (std::abs(greatest->Moment) <= worked * (1 + rounding)) {
+    if (std::abs(greatest.Moment) <= worked * (1 + rounding)) {
         return {};
     }
-    return "The moment goes to " + FormatNumber(greatest->Moment, "#,##0.0") + " ft-lb at " +
-           FormatNumber(greatest->At, "#,##0.00") + " ft, beyond the " + FormatNumber(worked, "#,##0.0") +
+    return "The moment goes to " + FormatNumber(greatest.Moment, "#,##0.0") + " ft-lb at " +
+           FormatNumber(greatest.At, "#,##0.00") + " ft, beyond the " + FormatNumber(worked, "#,##0.0") +
            " ft-lb that the check works with: check the stud by hand for it.";
 }
 

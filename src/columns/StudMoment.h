@@ -20,6 +20,9 @@ struct StudMoment {
 /// @param problem  height above 0; loads within the height
 StudMoment ComputeStudMoment(const StudColumnProblem& problem);
 
+/// The station at which the moment is greatest in size, inwards or outwards.
+const StudStation& StationOfGreatestMoment(const StudStationTable& stations);
+
 /// What to say where the moment worked with is not the greatest in size: a later, lower peak, or suction.
 /// Empty where it is.
 std::string StudMomentWarning(const StudTest& test);

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ColumnRecordForm.h"
 
 namespace kordavan {
 
 /// The record of a wood column.
-class Form19 : public Form {
+class Form19 : public ColumnRecordForm {
     Q_OBJECT
 
 public:

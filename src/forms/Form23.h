@@ -1,11 +1,11 @@
 #pragma once
 
-#include "forms/Form.h"
+#include "forms/ColumnRecordForm.h"
 
 namespace kordavan {
 
 /// The record of a steel column.
-class Form23 : public Form {
+class Form23 : public ColumnRecordForm {
     Q_OBJECT
 
 public:

@@ -41,13 +41,12 @@ RecordSheet::RecordSheet()
     setSizePolicy(policy);
 }
 
-void RecordSheet::Show(const RecordPage& newPage, const std::optional<LoadPicture>& newLoads,
-                       const QString& fontFamily)
+void RecordSheet::Show(const RecordPage& newPage, const PagePicture& newPicture, const QString& fontFamily)
 {
     page = newPage;
-    loads = newLoads;
+    picture = newPicture;
     family = fontFamily;
-    setAccessibleDescription(loads ? Text(DescribePicture(*loads)) : QString());
+    setAccessibleDescription(Text(DescribePagePicture(picture)));
     MakeCells();
     PlaceCells();
     updateGeometry();
@@ -152,8 +151,7 @@ bool RecordSheet::eventFilter(QObject* watched, QEvent* event)
 void RecordSheet::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    PagePainter(page, family, PageInk::OnScreen(palette()))
-        .PaintGround(painter, Sheet(), loads ? &*loads : nullptr);
+    PagePainter(page, family, PageInk::OnScreen(palette())).PaintGround(painter, Sheet(), picture);
     for (const Cell& cell : cells) {
         if (cell.Shown->hasFocus()) {
             constexpr double thickness = 2;

@@ -192,10 +192,16 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
         EXPECT_THAT(DoubledMnemonics(columnForm), testing::IsEmpty());
     }
     for (const Screen screen :
-         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Print,
-          Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram,
-          Screen::WoodColumns, Screen::SteelColumns}) {
+         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
+          Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
+          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
+    }
+    for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
+        walk.Go(record);
+        Click("Command1");
+        EXPECT_EQ(Text(Front().objectName()), "Form7");
+        EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty());
     }
 }
 
@@ -213,7 +219,8 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
          {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
           Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
           Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns,
-          Screen::WoodColumns, Screen::SteelColumns}) {
+          Screen::WoodColumns, Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord,
+          Screen::StudRecord}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
