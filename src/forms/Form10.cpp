@@ -141,7 +141,7 @@ Form10::Form10(Walk& theWalk)
       sizeList(SteelColumnSizeList()),
       sizeHelp{.Button = "SizeHelp", .Topic = "Sizes of steel columns", .Text = sizeList}
 {
-    setWindowTitle(QStringLiteral(" Kordavan Steel Column Selection"));
+    setWindowTitle(QStringLiteral("Steel Column Selection"));
     BuildHead();
     BuildPicks();
     BuildBoxes();

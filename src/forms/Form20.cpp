@@ -57,7 +57,7 @@ Form20::Form20(Walk& theWalk)
     : ColumnSelectionForm(theWalk, "Form20", ColumnRecordKind::Wood, Screen::WoodColumnRecord),
       numbers{.User = User(), .CalculatorText = [&theWalk] { return theWalk.CalculatorText(); }}
 {
-    setWindowTitle(QStringLiteral(" Kordavan Wood Column Selection"));
+    setWindowTitle(QStringLiteral("Wood Column Selection"));
     BuildHead();
     BuildPicks();
     BuildBoxes();
