@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "columns/ColumnCriteria.h"
+#include "columns/SilentUser.h"
 #include "columns/StudMoment.h"
 #include "columns/WoodColumnReport.h"
 #include "core/NumberText.h"
@@ -10,13 +11,6 @@
 namespace kordavan {
 
 namespace {
-
-/// Nobody is told.
-class SilentUser : public UserPort {
-public:
-    void Tell(const Message& /*message*/) override {}
-    bool Ask(const Message& /*question*/) override { return false; }
-};
 
 /// By the import itself, so that what is shown is what it would enter.
 std::string ReactionText(const Session& beam, bool isSecond)

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "columns/SilentUser.h"
 #include "columns/StudCriteria.h"
 #include "columns/StudFactors.h"
 #include "columns/StudStrength.h"
@@ -70,6 +71,16 @@ Outcome CalculateStud(ColumnSession& columns, Edition edition, UserPort& user)
     }
     columns.StudRun = test;
     return Outcome::Done;
+}
+
+void RecallStud(ColumnSession& columns, Edition edition)
+{
+    StudEntry entry = columns.Stud;
+    SilentUser nobody;
+    const std::optional<StudTest> test = TestStud(entry, edition, nobody);
+    if (test && entry == columns.Stud) {
+        columns.StudRun = test;
+    }
 }
 
 }  // namespace kordavan

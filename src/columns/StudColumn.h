@@ -19,4 +19,8 @@ std::optional<StudTest> TestStud(StudEntry& entry, Edition edition, UserPort& us
 /// The OK command of the stud face; a refusal leaves the last results.
 Outcome CalculateStud(ColumnSession& columns, Edition edition, UserPort& user);
 
+/// Works a stud that was just loaded out again, so that its record can be shown at once. Nothing is told: one
+/// whose entries would be refused or changed waits for the OK command.
+void RecallStud(ColumnSession& columns, Edition edition);
+
 }  // namespace kordavan

@@ -77,7 +77,7 @@ ColumnReportBlock SizeBlock(const ColumnResult& r)
             {
                 {"PanD1", "D1, net thickness", PlainNumber(r.D1), "in."},
                 {"PanD2", "D2, net width", PlainNumber(r.D2), "in."},
-                {"PanArea", "A, area", FormatNumber(r.Area, "#,##0.00"), "in2"},
+                {"PanArea", "A, area", FormatNumber(r.Area, "#,##0.00"), "in\u00B2"},
                 {"PanSlendernessD1", "le1/D1", FormatNumber(r.SlendernessD1, Slenderness), ""},
                 {"PanSlendernessD2", "le2/D2", FormatNumber(r.SlendernessD2, Slenderness), ""},
                 {"PanSlendernessLimit", "Limit of le/d", FormatNumber(MostColumnSlenderness, "0"), "",

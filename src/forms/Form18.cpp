@@ -298,6 +298,7 @@ void Form18::LoadStud()
     }
     const std::optional<std::string> path = TheWalk().Desktop().AskOpenFile(OpenStudColumnDialog);
     if (path && OpenStudRecord(*path, Columns(), TheSession().NoteClipboard, User()) == Outcome::Done) {
+        RecallStud(Columns(), EditionNow());
         TheWalk().RefreshBeside(Screen::Notes);
         Refresh();
         FocusOn("WindStudHt");

@@ -144,7 +144,7 @@ TEST(WoodColumnReport, TellsEveryFigureWithItsUnit)
                                  Figure{"PanHeight", "8.0", "ft"},
                                  Figure{"PanLe1", "96.0", "in."},
                                  Figure{"PanD1", "3.5", "in."},
-                                 Figure{"PanArea", "12.25", "in2"},
+                                 Figure{"PanArea", "12.25", "in\u00B2"},
                                  Figure{"PanSlendernessD2", "27.4", ""},
                                  Figure{"PanSlendernessLimit", "50", ""},
                                  Figure{"PanFc", "1350", "psi"},

@@ -225,8 +225,25 @@ TEST_F(StudFormTest, KeepsAStudWithItsNotesInAFile)
     EXPECT_EQ(session.NoteClipboard[0], "north wall");
     EXPECT_TRUE(Find<QWidget>("WindFrame").isVisible());
     EXPECT_EQ(FocusName(), "WindStudHt");
+    EXPECT_EQ(LabelText("StudStatusLabel"), "Adequate");
+    EXPECT_TRUE(IsOn("StudReportbutton"));  // as the message on loading says
     EXPECT_THAT(desktop.DialogTitles,
                 testing::ElementsAre("Save Stud Column Record As", "Open Stud Column Record"));
+}
+
+TEST_F(StudFormTest, AnUnfinishedStudOfAFileIsNotReported)
+{
+    EnterStud();
+    Click("StudOKCalcbutton");
+    Type("WindStudSpacing", "");
+    desktop.ChosenFile = desktop.PathOf("half.Wsc");
+    user.WillAnswer(false);
+    Click("SaveStudbutton");
+    const std::size_t told = user.Told.size();
+    Click("LoadStudbutton");
+    EXPECT_EQ(user.Told.size(), told + 1);  // what may be done with it
+    EXPECT_EQ(BoxText("WindStudSpacing"), "");
+    EXPECT_FALSE(IsOn("StudReportbutton"));
 }
 
 TEST_F(StudFormTest, SketchSaysWhatIsTyped)
