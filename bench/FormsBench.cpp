@@ -58,9 +58,10 @@ struct Desk {
     }
 
     Session session;
+    ColumnSession columns;
     SilentUser user;
     BareDesk desktop;
-    Walk walk{session, user, desktop};
+    Walk walk{session, columns, user, desktop};
 };
 
 void FirstForm(benchmark::State& state)

@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "columns/ColumnSession.h"
 #include "design/Session.h"
 #include "forms/DialogUser.h"
 #include "forms/QtDesktop.h"
@@ -13,9 +14,10 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);
 
     kordavan::Session session;
+    kordavan::ColumnSession columns;
     kordavan::DialogUser user;
     kordavan::QtDesktop desktop;
-    kordavan::Walk walk(session, user, desktop);
+    kordavan::Walk walk(session, columns, user, desktop);
     walk.Start();
     return QApplication::exec();
 }

@@ -51,8 +51,9 @@ bool WriteRecordOf(const std::string& request, std::size_t line, const std::file
     }
     const DataSheet sheet = FillDataRecord(run.Work, LocalToday(), run.User);
     const std::string path = folder / FileNameOf(run, line, taken);
-    const std::string fault = SavePdf(path, LayOutDataRecord(sheet, {}),
-                                      PictureOfCalculated(run.Work.Numbers), Text(std::string_view("Arial")));
+    const std::string fault = SavePdf(path, {.Page = LayOutDataRecord(sheet, {}),
+                                             .Picture = PictureOfCalculated(run.Work.Numbers),
+                                             .Family = Text(std::string_view("Arial"))});
     if (fault.empty()) {
         std::cout << path << '\n';
     } else {

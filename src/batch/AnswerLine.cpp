@@ -14,6 +14,9 @@
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
 #include "batch/SteelAnswer.h"
+#include "batch/SteelColumnTask.h"
+#include "batch/StudTask.h"
+#include "batch/WoodColumnTask.h"
 #include "records/DataSheetFill.h"
 
 namespace kordavan {
@@ -100,10 +103,13 @@ struct TaskRow {
 
 constexpr std::array Tasks{
     TaskRow{"beam", AnswerBeam},
+    TaskRow{"column", AnswerColumn},
     TaskRow{"hip-valley", AnswerHipValley},
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},
+    TaskRow{"steel-column", AnswerSteelColumn},
     TaskRow{"steel-scan", AnswerSteelScan},
+    TaskRow{"stud", AnswerStud},
     TaskRow{"write-record", AnswerWriteRecord},
 };
 

@@ -7,8 +7,12 @@
 #include "batch/AnswerOutcome.h"
 #include "batch/BeamRun.h"
 #include "batch/CollectingUser.h"
+#include "records/ColumnRecordFile.h"
+#include "records/ColumnRecordLayout.h"
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
+#include "records/CustomPostFile.h"
+#include "records/CustomPostLayout.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
 #include "records/DataRecordFile.h"
@@ -18,6 +22,8 @@
 #include "records/RecordFile.h"
 #include "records/SclFile.h"
 #include "records/SclLayout.h"
+#include "records/StudRecordFile.h"
+#include "records/StudRecordLayout.h"
 
 namespace kordavan {
 
@@ -43,13 +49,36 @@ void TellCriteria(const PackedRecord& record, const Session& /*session*/, UserPo
     TellCriteriaEdition(record, user);
 }
 
+template <ColumnRecordKind Kind>
+Outcome CheckColumn(const PackedRecord& record, UserPort& user)
+{
+    return CheckColumnRecordTag(record, Kind, user);
+}
+
+template <ColumnRecordKind Kind>
+void TellColumn(const PackedRecord& /*record*/, const Session& /*session*/, UserPort& user)
+{
+    TellColumnRecordLoaded(Kind, user);
+}
+
+void TellStud(const PackedRecord& /*record*/, const Session& /*session*/, UserPort& user)
+{
+    TellStudRecordLoaded(user);
+}
+
 constexpr std::array Kinds{
+    RecordKind{"column", &WoodColumnRecordLayout, WoodColumnTag, CheckColumn<ColumnRecordKind::Wood>,
+               TellColumn<ColumnRecordKind::Wood>},
     RecordKind{"criteria", &CriteriaLayout, CriteriaTagWritten, CheckCriteriaTag, TellCriteria},
+    RecordKind{"custom-post", &CustomPostLayout, CustomPostTag, CheckCustomPost, TellNothing},
     RecordKind{"custom-values", &CustomValuesLayout, CustomValuesTag, CheckCustomValues, TellCustomValues},
     RecordKind{"data-record", &DataRecordLayout, DataRecordTag, CheckDataRecordTag, TellNothing},
     RecordKind{"defaults", &DefaultsLayout, DefaultsTag, CheckDefaultsTag, TellNothing},
     RecordKind{"scl", &SclLayout, SclTag, CheckSclTag, TellNothing},
     RecordKind{"scl-custom", &CustomSclLayout, CustomSclTag, CheckCustomSclTag, TellNothing},
+    RecordKind{"steel-column", &SteelColumnRecordLayout, SteelColumnTag, CheckColumn<ColumnRecordKind::Steel>,
+               TellColumn<ColumnRecordKind::Steel>},
+    RecordKind{"stud-column", &StudRecordLayout, StudRecordTag, CheckStudRecordTag, TellStud},
 };
 
 const JsonValue& Needed(const JsonValue& request, std::string_view name)

@@ -242,6 +242,7 @@ LoadDiagram ReadLoadDiagram(const Session& session, CurveLoads loads)
     diagram.LoadsText = DescribePicture(diagram.Loads) + " " + ReactionsText(diagram.Curves);
     diagram.Plots = {PlotWriter(ShearWords, diagram.Curves).Write(),
                      WriteMoment(session, diagram.Curves, loads), WriteDeflection(diagram.Curves)};
+    diagram.Plots.back().HasFeet = true;
     return diagram;
 }
 

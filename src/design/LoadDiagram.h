@@ -27,6 +27,7 @@ struct CurvePlot {
     std::vector<CurveMark> Marks;  // peaks and zeroes
     std::string Peaks;             // the same in words
     bool HasCurve = true;          // false where there is nothing to draw, for the reason in Peaks
+    bool HasFeet = false;          // the feet of all curves are written below this one
 };
 
 inline constexpr std::size_t CurveCount = 3;

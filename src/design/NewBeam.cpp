@@ -123,13 +123,17 @@ bool HasUnsavedEntries(const Session& session)
     return WithoutCalculators(TypedEntries(session)) != WithoutCalculators(session.KeptProblem);
 }
 
-Message ExitQuestion(const Session& session, int minutesUsed)
+Message ExitQuestion(const Session& session, int minutesUsed, std::string_view otherWork)
 {
     std::string text = "You have used Kordavan for " + PlainNumber(static_cast<double>(minutesUsed)) +
                        " minutes. Do you wish to exit?";
     if (HasUnsavedEntries(session)) {
         text += "\n";
         text += EntriesNotSaved;
+    }
+    if (!otherWork.empty()) {
+        text += "\n";
+        text += otherWork;
     }
     return RiskyQuestion(text);
 }

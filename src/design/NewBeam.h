@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "core/Message.h"
 #include "design/Session.h"
 
@@ -25,6 +27,7 @@ Outcome OfferToOpen(const Session& session, UserPort& user);
 bool HasUnsavedEntries(const Session& session);
 
 /// The question before the program ends.
-Message ExitQuestion(const Session& session, int minutesUsed);
+/// @param otherWork  sentences on what is unsaved beside the beam; empty when there is nothing
+Message ExitQuestion(const Session& session, int minutesUsed, std::string_view otherWork = {});
 
 }  // namespace kordavan

@@ -105,25 +105,6 @@ bool IsPointOverhang(const LoadNumbers& loads)
     return both ? loads.DIS[4] == loads.DIS[5] : loads.PT[4] != 0 || loads.PT[5] != 0;
 }
 
-/// Coefficient of E'/Rb^2. Source: NDS 1997 and 2001, 3.3.3.8 (KbE); from NDS 2005 on 1.2 E'min, E'min being
-/// E reduced by its spread.
-double BucklingCoefficient(Edition edition, BucklingClass material)
-{
-    if (IsPre2005(edition)) {
-        return material == BucklingClass::Glulam ? 0.61 : 0.439;
-    }
-    constexpr double slenderness = 1.2;
-    switch (material) {
-        case BucklingClass::Glulam:
-            return slenderness * 0.5285;
-        case BucklingClass::MachineGraded:
-            return slenderness * 0.4674;
-        case BucklingClass::VisuallyGraded:
-            return slenderness * 0.3653;
-    }
-    return 0;
-}
-
 /// NDS equation 3.3-6; never above 1.
 float StabilityFactor(double A)
 {
@@ -174,7 +155,7 @@ private:
         if (span.Rb == 0) {
             user.Tell(Alert(texts.RbZero));
         }
-        ApplyBuckling(input, BucklingCoefficient(beam.Nds, input.Class), span.Rb, span);
+        ApplyBuckling(input, BucklingCoefficient(IsPre2005(beam.Nds), input.Class), span.Rb, span);
         return true;
     }
 
@@ -188,7 +169,8 @@ private:
         if (overhang.Rb == 0) {
             user.Tell(Alert(texts.CantRbZero));
         }
-        ApplyBuckling(input, BucklingCoefficient(beam.Nds, input.Class), OverhangBucklingRb(), overhang);
+        ApplyBuckling(input, BucklingCoefficient(IsPre2005(beam.Nds), input.Class), OverhangBucklingRb(),
+                      overhang);
     }
 
     bool MeasureSlenderness(double unbracedFt, const EffectiveLength& rule, std::string_view failure,
@@ -242,6 +224,23 @@ bool IsExempt(const BeamNumbers& beam, NetSize size)
 }
 
 }  // namespace
+
+double BucklingCoefficient(bool isPre2005, BucklingClass material)
+{
+    if (isPre2005) {
+        return material == BucklingClass::Glulam ? 0.61 : 0.439;
+    }
+    constexpr double slenderness = 1.2;
+    switch (material) {
+        case BucklingClass::Glulam:
+            return slenderness * 0.5285;
+        case BucklingClass::MachineGraded:
+            return slenderness * 0.4674;
+        case BucklingClass::VisuallyGraded:
+            return slenderness * VisualEminOverE;
+    }
+    return 0;
+}
 
 StabilityResult ComputeStability(const BeamNumbers& beam, const StabilityInput& input, UserPort& user)
 {

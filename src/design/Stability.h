@@ -26,6 +26,13 @@ struct StabilityResult {
 /// Which lumber the buckling coefficient is for.
 enum class BucklingClass { VisuallyGraded, MachineGraded, Glulam };
 
+/// Emin over E of visually graded lumber: 1 - 1.645 COV of its E, over 1.66, times 1.03 (NDS appendix D.4).
+inline constexpr double VisualEminOverE = 0.3653;
+
+/// Coefficient of E'/Rb^2 in the critical buckling stress of bending members. Source: NDS 1997 and 2001,
+/// 3.3.3.8 (KbE); from NDS 2005 on 1.2 Emin (3.3.3.8).
+double BucklingCoefficient(bool isPre2005, BucklingClass material);
+
 /// Whether messages speak of the candidate or of the next smaller size.
 enum class StabilityRun { Candidate, NextSmaller };
 

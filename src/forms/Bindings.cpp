@@ -51,6 +51,15 @@ void Bindings::Bind(QComboBox& list, std::string& text)
     });
 }
 
+void Bindings::Bind(QComboBox& list, int& position)
+{
+    connect(&list, &QComboBox::activated, this, [this, &list, &position](int index) {
+        position = index;
+        Q_EMIT Edited(list.objectName());
+    });
+    shows.emplace_back([&list, &position] { list.setCurrentIndex(position); });
+}
+
 void Bindings::Show() const
 {
     for (const auto& show : shows) {
@@ -71,7 +80,8 @@ void Bindings::BindText(QLineEdit& box, std::string& text)
     });
 }
 
-/// In an exclusive group the last option could not be taken away, yet none may be chosen.
+/// In an exclusive group the last option could not be taken away, yet none may be chosen. The one that is
+/// chosen is the group's stop for Tab, before any has had the focus too.
 void Bindings::SetOption(QAbstractButton& option, bool isChosen)
 {
     QButtonGroup* const group = option.group();
@@ -81,6 +91,12 @@ void Bindings::SetOption(QAbstractButton& option, bool isChosen)
         group->setExclusive(true);
     } else {
         option.setChecked(isChosen);
+    }
+    if (group == nullptr || !isChosen) {
+        return;
+    }
+    for (QAbstractButton* const other : group->buttons()) {
+        other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
     }
 }
 

@@ -26,6 +26,9 @@ public:
     /// A list of texts; one that the model holds beside them joins the list.
     void Bind(QComboBox& list, std::string& text);
 
+    /// A list whose position the model holds.
+    void Bind(QComboBox& list, int& position);
+
     /// An option that stands for one value of a choice.
     template <typename Choice>
     void BindOption(QAbstractButton& option, Choice& choice, Choice value)

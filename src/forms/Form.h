@@ -48,6 +48,7 @@ public:
 protected:
     Walk& TheWalk() { return currentWalk; }
     Session& TheSession() { return currentWalk.CurrentSession(); }
+    ColumnSession& Columns() { return currentWalk.Columns(); }
     UserPort& User() { return currentWalk.User(); }
 
     QVBoxLayout& Body() { return *body; }

@@ -219,6 +219,9 @@ void Form1::MakeMenus()
     dataRecord = &AddCommand(goTo, {"MnuDataRecord", "The Data Record of the member on record"},
                              "&Data Record", [this] { TheWalk().Go(Screen::Record); });
     diagram = &AddDiagramCommand(goTo);
+    AddCommand(
+        goTo, {"MnuColumns", "Columns of wood and steel, and wall studs under wind"}, "&Columns",
+        [this] { TheWalk().Go(Screen::Columns); }, QKeySequence(Qt::Key_F7));
     AddToolsMenu();
     AddHelpMenu(Page);
 }

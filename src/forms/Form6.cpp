@@ -1,21 +1,11 @@
 #include "forms/Form6.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QHBoxLayout>
 #include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 #include "design/NewBeam.h"
-#include "forms/Form7.h"
-#include "forms/RecordPdf.h"
-#include "forms/RecordSheet.h"
 #include "records/DataRecordFile.h"
 #include "records/DataRecordPage.h"
 #include "records/RecordDesk.h"
-#include "records/RecordFile.h"
 
 namespace kordavan {
 
@@ -32,36 +22,26 @@ constexpr std::string_view Page6 =
 
 }  // namespace
 
-Form6::Form6(Walk& theWalk) : Form(theWalk, "Form6"), sheet(new RecordSheet)
+Form6::Form6(Walk& theWalk) : RecordForm(theWalk, "Form6")
 {
     setWindowTitle(QStringLiteral(" Kordavan Data Record"));
-    Body().addWidget(sheet, 1);
-    print = MakeButton({.Name = "Command1", .Tip = "Heads the page and prints it (Enter)"}, "&Print...");
-    print->setDefault(true);
-    connect(print, &QPushButton::clicked, this, [this] { GoToPrint(); });
-    Foot().addStretch(1);
-    Foot().addWidget(print);
     BuildMenus();
 }
 
-void Form6::Activate()
+void Form6::FillRecord()
 {
     ShowRecord(TheSession(), TheWalk().Desktop().Today(), User());
-    const bool isFromDisk = TheSession().Record.FromDisk;
-    back->setEnabled(!isFromDisk);
-    backInBar->setEnabled(!isFromDisk);
-    ShowSheet();
-    print->setFocus(Qt::OtherFocusReason);
+    EnableBack(!TheSession().Record.FromDisk);
 }
 
-QAbstractButton* Form6::DefaultCommand()
+void Form6::TakeNotes()
 {
-    return print;
+    BringNotes(TheSession());
 }
 
 void Form6::GoBack()
 {
-    if (back->isEnabled() && LeaveForReport(TheSession(), User()) == Outcome::Done) {
+    if (CanGoBack() && LeaveForReport(TheSession(), User()) == Outcome::Done) {
         TheWalk().Go(Screen::TestReport);
     }
 }
@@ -73,12 +53,10 @@ void Form6::BuildMenus()
     AddCommand(goTo, {"MnuCriteria", "The entries of this beam"}, "&Criteria Form 1",
                [this] { GoToCriteria(); });
     AddDiagramCommand(goTo);
-    back = &AddCommand(goTo, {"MnuBack", "Back to the report (Esc)"}, "&Report Form3", [this] { GoBack(); });
+    AddBackCommand(goTo, "Back to the report (Esc)", "&Report Form3");
     AddToolsMenu();
     AddHelpMenu(Page6);
-    backInBar = menuBar()->addAction(QStringLiteral("&Back"));
-    backInBar->setObjectName(QStringLiteral("backmnu"));
-    connect(backInBar, &QAction::triggered, this, &Form6::GoBack);
+    AddBackToBar();
 }
 
 void Form6::BuildFileMenu()
@@ -90,44 +68,72 @@ void Form6::BuildFileMenu()
     AddCommand(
         file, {"MnuSaveData", "Saves this record as text"}, "&Save Record...", [this] { SaveRecord(); },
         QKeySequence::Save);
-    AddCommand(
-        file, {"MnuCopyClip", "The whole record as aligned text"}, "&Copy to Clipboard",
-        [this] { CopyRecord(); }, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C));
-    AddCommand(file, {"MnuPdf", "The page as a PDF file"}, "Save as P&DF...", [this] { SaveAsPdf(); });
-    AddCommand(
-        file, {"MnuPrint", "Heads the page and prints it"}, "&Print...", [this] { GoToPrint(); },
-        QKeySequence::Print);
-    AddExitCommand(file);
+    AddPageCommands(file);
 }
 
-void Form6::ShowNotes()
+RecordHeading& Form6::Heading()
 {
-    BringNotes(TheSession());
-    ShowSheet();
+    return TheSession().Record.Heading;
 }
 
-void Form6::ShowSheet()
+void Form6::PrepareHeading()
 {
-    sheet->Show(Page(), Loads(), font().family());
+    kordavan::PrepareHeading(TheSession(), TheWalk().Desktop().Today());
+}
+
+void Form6::TakeHeading()
+{
+    kordavan::TakeHeading(TheSession(), TheWalk().Desktop().Today());
 }
 
 RecordPage Form6::Page()
 {
-    const RecordOnShow& record = TheSession().Record;
+    return LayOut(TheSession().Record.Sheet, true);
+}
+
+RecordPage Form6::HeadedPage(bool hasNotes)
+{
+    return LayOut(HeadedSheet(TheSession(), TheWalk().Desktop().Today()), hasNotes);
+}
+
+RecordPage Form6::LayOut(const DataSheet& sheet, bool hasNotes)
+{
     return LayOutDataRecord(
-        record.Sheet, {.HighDpi = TheSession().HighDPI, .HasNotes = true, .HasDiagram = !record.FromDisk});
+        sheet,
+        {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = !TheSession().Record.FromDisk});
 }
 
-std::optional<LoadPicture> Form6::Loads()
+PagePicture Form6::Picture()
 {
-    return TheSession().Record.FromDisk ? std::nullopt
-                                        : std::optional(PictureOfCalculated(TheSession().Numbers));
+    return TheSession().Record.FromDisk ? PagePicture() : PictureOfCalculated(TheSession().Numbers);
 }
 
-void Form6::GoToPrint()
+std::string_view Form6::IdCaption() const
 {
-    static_cast<Form7&>(TheWalk().FormOf(Screen::Print)).SetLoads(Loads());
-    TheWalk().Go(Screen::Print);
+    return "&Beam ID";
+}
+
+Screen Form6::ShownOn() const
+{
+    return Screen::Record;
+}
+
+Outcome Form6::SaveHeaded()
+{
+    const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SaveDataRecordDialog);
+    if (!path) {
+        return Outcome::Refused;
+    }
+    TakeHeading();
+    const RecordOnShow& record = TheSession().Record;
+    return SaveDataRecord(record.Sheet, record.Heading, *path, User());
+}
+
+void Form6::FollowSaving()
+{
+    if (!TheSession().Record.FromDisk && User().Ask(Question(PrintTexts::SaveCriteriaToo))) {
+        TheWalk().Go(Screen::Criteria);
+    }
 }
 
 void Form6::OnNewBeam()
@@ -152,27 +158,10 @@ void Form6::OpenRecord()
 
 void Form6::SaveRecord()
 {
-    PrepareHeading(TheSession(), TheWalk().Desktop().Today());
+    PrepareHeading();
     if (const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SaveDataRecordDialog)) {
         const RecordOnShow& record = TheSession().Record;
         SaveDataRecord(record.Sheet, record.Heading, *path, User());
-    }
-}
-
-void Form6::CopyRecord()
-{
-    QApplication::clipboard()->setText(Text(PlainTextOf(Page())));
-}
-
-void Form6::SaveAsPdf()
-{
-    const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SavePdfDialog);
-    if (!path) {
-        return;
-    }
-    const std::string fault = SavePdf(*path, Page(), Loads(), Text(PrintFontOf(TheSession())));
-    if (!fault.empty()) {
-        RefuseSaving(*path, fault, User());
     }
 }
 

@@ -1,52 +1,46 @@
 #pragma once
 
-#include <optional>
-
-#include "design/LoadPicture.h"
-#include "forms/Form.h"
-#include "records/RecordPage.h"
-
-class QPushButton;
+#include "forms/RecordForm.h"
 
 namespace kordavan {
 
-class RecordSheet;
-
 /// The Data Record: one sheet that states the member, its criteria, loads and results.
-class Form6 : public Form {
+class Form6 : public RecordForm {
     Q_OBJECT
 
 public:
     explicit Form6(Walk& walk);
 
-    /// Fills the sheet anew, unless it was loaded from a file.
-    void Activate() override;
-    void ShowNotes() override;
+    RecordHeading& Heading() override;
+    void PrepareHeading() override;
+    void TakeHeading() override;
+    void TakeNotes() override;
+    RecordPage HeadedPage(bool hasNotes) override;
+
+    /// The loads of the page; those of a record of text alone are not known.
+    PagePicture Picture() override;
+
+    std::string_view IdCaption() const override;
+    Screen ShownOn() const override;
+    Outcome SaveHeaded() override;
+
+    /// Offers to save the criteria too.
+    void FollowSaving() override;
 
 protected:
-    QAbstractButton* DefaultCommand() override;
+    /// Fills the sheet anew, unless it was loaded from a file.
+    void FillRecord() override;
+    RecordPage Page() override;
     void GoBack() override;
 
 private:
     void BuildMenus();
     void BuildFileMenu();
-    void ShowSheet();
-    RecordPage Page();
+    RecordPage LayOut(const DataSheet& sheet, bool hasNotes);
     void OnNewBeam();
     void OpenRecord();
     void SaveRecord();
-    void CopyRecord();
-    void SaveAsPdf();
     void GoToCriteria();
-    void GoToPrint();
-
-    /// The loads of the page; those of a record of text alone are not known.
-    std::optional<LoadPicture> Loads();
-
-    RecordSheet* sheet = nullptr;
-    QPushButton* print = nullptr;
-    QAction* back = nullptr;
-    QAction* backInBar = nullptr;
 };
 
 }  // namespace kordavan

@@ -12,10 +12,7 @@
 #include "forms/PagePreview.h"
 #include "forms/PrinterPort.h"
 #include "forms/RecordPdf.h"
-#include "records/DataRecordFile.h"
-#include "records/DataRecordPage.h"
 #include "records/RecordDesk.h"
-#include "records/RecordFile.h"
 
 namespace kordavan {
 
@@ -66,6 +63,7 @@ Form7::Form7(Walk& walk) : Form(walk, "Form7"), preview(new PagePreview)
     BuildFoot();
     BuildMenus();
     connect(&boxes, &Bindings::Edited, this, [this] {
+        source->Heading() = heading;
         isEdited = true;
         Refresh();
     });
@@ -73,10 +71,17 @@ Form7::Form7(Walk& walk) : Form(walk, "Form7"), preview(new PagePreview)
 
 void Form7::Activate()
 {
-    PrepareHeading(TheSession(), TheWalk().Desktop().Today());
+    source->PrepareHeading();
+    idCaption->setText(Text(source->IdCaption()));
     isEdited = false;
     Refresh();
     FocusOn("Heading1");
+}
+
+void Form7::ShowNotes()
+{
+    source->TakeNotes();
+    Refresh();
 }
 
 QAbstractButton* Form7::DefaultCommand()
@@ -87,22 +92,22 @@ QAbstractButton* Form7::DefaultCommand()
 void Form7::GoBack()
 {
     if (isEdited) {
-        TakeHeading(TheSession(), TheWalk().Desktop().Today());
+        source->TakeHeading();
     }
-    TheWalk().Go(Screen::Record);
+    TheWalk().Go(source->ShownOn());
 }
 
 void Form7::BuildHeading(QGridLayout& grid)
 {
-    RecordHeading& heading = TheSession().Record.Heading;
     int row = 0;
     const auto add = [&](const ControlText& text, int most, std::string_view caption, std::string& bound) {
         QLineEdit* const box = MakeTextBox(text, most);
         boxes.Bind(*box, bound);
-        grid.addWidget(MakeCaption(caption, *box), row, 0);
+        QLabel* const label = MakeCaption(caption, *box);
+        grid.addWidget(label, row, 0);
         grid.addWidget(box, row, 1);
         ++row;
-        return box;
+        return label;
     };
     add({.Name = "Heading1", .Tip = "First line above the record"}, MostHeading, "He&ader lines",
         heading.Heading1);
@@ -112,8 +117,10 @@ void Form7::BuildHeading(QGridLayout& grid)
     grid.addWidget(second, row, 1);
     ++row;
     add({.Name = "Text1", .Tip = "Name of the project"}, MostText, "Pro&ject", heading.Project);
-    add({.Name = "Text2", .Tip = "Description of the beam"}, MostText, "De&scription", heading.Description);
-    add({.Name = "Text3", .Tip = "Mark of the beam on the plans"}, MostText, "&Beam ID", heading.BeamId);
+    add({.Name = "Text2", .Tip = "Description of the member"}, MostText, "De&scription", heading.Description);
+    idCaption =
+        add({.Name = "Text3", .Tip = "Mark of the member on the plans"}, MostText, {}, heading.BeamId);
+    idCaption->setObjectName(QStringLiteral("IdCaption"));
     add({.Name = "Datebox", .Tip = "Date of the record; today when empty"}, MostDate, "Dat&e", heading.Date);
     add({.Name = "Initialbox", .Tip = "Initials of the designer"}, MostInitials, "Prepared b&y",
         heading.Initials);
@@ -156,21 +163,14 @@ void Form7::BuildMenus()
 
 void Form7::Refresh()
 {
+    heading = source->Heading();
     boxes.Show();
-    preview->Show(Page(true), loads, Text(PrintFontOf(TheSession())));
-}
-
-/// The sheet under the heading as it is typed; it takes it for good when it is printed or saved.
-RecordPage Form7::Page(bool hasNotes)
-{
-    return LayOutDataRecord(
-        HeadedSheet(TheSession(), TheWalk().Desktop().Today()),
-        {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = loads.has_value()});
+    preview->Show(source->HeadedPage(true), source->Picture(), Text(PrintFontOf(TheSession())));
 }
 
 void Form7::OnClear()
 {
-    ClearHeading(TheSession());
+    source->Heading() = {};
     isEdited = true;
     Refresh();
     FocusOn("Heading1");
@@ -185,47 +185,44 @@ void Form7::OnPrint()
     }
     RememberPrinter();
     const bool hasNotes = AskToPrintNotes(TheSession(), User());
-    TakeHeading(TheSession(), TheWalk().Desktop().Today());
+    source->TakeHeading();
     Refresh();
     panel->setText(QStringLiteral("Printing, one moment please..."));
     panel->repaint();
-    const RecordPage page = Page(hasNotes);
+    const RecordPage page = source->HeadedPage(hasNotes);
+    const PagePicture picture = source->Picture();
     const PrintEnd end =
-        printers.Print({.Page = page, .Loads = loads, .Family = Text(PrintFontOf(TheSession()))});
+        printers.Print({.Page = page, .Picture = picture, .Family = Text(PrintFontOf(TheSession()))});
     panel->setText({});
     if (TheSession().RestoreDefaultPrinter) {
         printers.UsePrinter(*usualPrinter);
     }
     usualPrinter.reset();
+    if (end == PrintEnd::Printed) {
+        source->MarkKept();
+    }
     User().Tell(PrintEndMessage(end));
 }
 
 void Form7::OnSave()
 {
-    const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SaveDataRecordDialog);
-    if (!path) {
-        return;
-    }
-    TakeHeading(TheSession(), TheWalk().Desktop().Today());
+    const Outcome saved = source->SaveHeaded();
     Refresh();
-    const RecordOnShow& record = TheSession().Record;
-    if (SaveDataRecord(record.Sheet, record.Heading, *path, User()) != Outcome::Done) {
-        return;
-    }
-    if (!record.FromDisk && User().Ask(Question(PrintTexts::SaveCriteriaToo))) {
-        TheWalk().Go(Screen::Criteria);
+    if (saved == Outcome::Done) {
+        source->MarkKept();
+        source->FollowSaving();
     }
 }
 
 void Form7::OnPdf()
 {
-    if (const std::optional<std::string> path = TheWalk().Desktop().AskSaveFile(SavePdfDialog)) {
-        TakeHeading(TheSession(), TheWalk().Desktop().Today());
+    const PdfPage page{.Page = source->HeadedPage(true),
+                       .Picture = source->Picture(),
+                       .Family = Text(PrintFontOf(TheSession()))};
+    if (AskToSavePdf(page, TheWalk().Desktop(), User()) == Outcome::Done) {
+        source->TakeHeading();
+        source->MarkKept();
         Refresh();
-        const std::string fault = SavePdf(*path, Page(true), loads, Text(PrintFontOf(TheSession())));
-        if (!fault.empty()) {
-            RefuseSaving(*path, fault, User());
-        }
     }
 }
 

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "design/LoadPicture.h"
+#include "design/DataSheet.h"
 #include "forms/Bindings.h"
 #include "forms/Form.h"
-#include "records/RecordPage.h"
+#include "forms/PrintSource.h"
 
 class QCheckBox;
 class QGridLayout;
@@ -24,10 +24,10 @@ public:
     explicit Form7(Walk& walk);
 
     void Activate() override;
-    void ShowNotes() override { Refresh(); }
+    void ShowNotes() override;
 
-    /// The loads of the record to print; none for a record of text alone.
-    void SetLoads(const std::optional<LoadPicture>& newLoads) { loads = newLoads; }
+    /// The record to print from now on; to be told before the form is shown.
+    void PrintFrom(PrintSource& record) { source = &record; }
 
 protected:
     QAbstractButton* DefaultCommand() override;
@@ -38,7 +38,6 @@ private:
     void BuildFoot();
     void BuildMenus();
     void Refresh();
-    RecordPage Page(bool hasNotes);
     void OnClear();
     void OnPrint();
     void OnSave();
@@ -48,10 +47,12 @@ private:
     void RememberPrinter();
 
     Bindings boxes;
-    std::optional<LoadPicture> loads;
+    PrintSource* source = nullptr;
+    RecordHeading heading;                    // as the boxes hold it
     std::optional<std::string> usualPrinter;  // before the person chose another for this page
     bool isEdited = false;
     PagePreview* preview = nullptr;
+    QLabel* idCaption = nullptr;
     QLabel* panel = nullptr;
     QPushButton* print = nullptr;
 };

@@ -205,7 +205,7 @@ void ChainTabStops(const std::vector<QWidget*>& order)
 {
     QWidget* last = nullptr;
     const auto chain = [&last](QWidget* next) {
-        if ((next->focusPolicy() & Qt::TabFocus) == 0) {
+        if ((next->focusPolicy() & Qt::TabFocus) == 0 || next->focusProxy() != nullptr) {
             return;
         }
         if (last != nullptr) {
@@ -219,7 +219,10 @@ void ChainTabStops(const std::vector<QWidget*>& order)
             continue;
         }
         for (QWidget* const inner : part->findChildren<QWidget*>()) {
-            chain(inner);
+            const bool isInPopup = inner->window() != part->window();
+            if (!isInPopup) {
+                chain(inner);
+            }
         }
     }
 }

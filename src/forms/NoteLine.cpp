@@ -48,6 +48,12 @@ void NoteLine::Append(QWidget* widget)
     line->addStretch(1);
 }
 
+void NoteLine::Tell(std::string_view text)
+{
+    label->setText(Text(text));
+    Show();
+}
+
 void NoteLine::Show()
 {
     setVisible(!label->text().isEmpty());

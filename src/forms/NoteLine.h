@@ -37,6 +37,9 @@ public:
     /// Sets a widget right behind the text, which stays on one line then.
     void Append(QWidget* widget);
 
+    /// Says the text, or hides the line when there is none.
+    void Tell(std::string_view text);
+
     /// Shows the line if its label has a text.
     void Show();
 

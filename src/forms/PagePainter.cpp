@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "forms/BeamPainter.h"
 #include "forms/Kit.h"
 #include "forms/StatusColor.h"
 #include "forms/StatusSign.h"
@@ -41,7 +40,7 @@ QRectF InUnits(const PageRect& rect)
 
 bool IsFailure(const PageText& text)
 {
-    return text.Style == PageStyle::Status && text.Text.starts_with("Fail");
+    return text.Style == PageStyle::Status && text.Text.find("Fail") != std::string::npos;
 }
 
 QRectF SignArea(const QRectF& status)
@@ -109,7 +108,7 @@ PagePainter::PagePainter(const RecordPage& recordPage, QString fontFamily, const
 {
 }
 
-void PagePainter::Paint(QPainter& painter, const QRectF& target, const LoadPicture* loads) const
+void PagePainter::Paint(QPainter& painter, const QRectF& target, const PagePicture& picture) const
 {
     painter.save();
     Enter(painter, target);
@@ -119,16 +118,16 @@ void PagePainter::Paint(QPainter& painter, const QRectF& target, const LoadPictu
             PaintText(painter, text);
         }
     }
-    PaintDiagram(painter, loads);
+    PaintDiagram(painter, picture);
     painter.restore();
 }
 
-void PagePainter::PaintGround(QPainter& painter, const QRectF& target, const LoadPicture* loads) const
+void PagePainter::PaintGround(QPainter& painter, const QRectF& target, const PagePicture& picture) const
 {
     painter.save();
     Enter(painter, target);
     PaintMarks(painter);
-    PaintDiagram(painter, loads);
+    PaintDiagram(painter, picture);
     painter.restore();
 }
 
@@ -160,10 +159,9 @@ void PagePainter::PaintMarks(QPainter& painter) const
     }
 }
 
-/// Loads are told by their letters, as their figures stand in the rows below.
-void PagePainter::PaintDiagram(QPainter& painter, const LoadPicture* loads) const
+void PagePainter::PaintDiagram(QPainter& painter, const PagePicture& picture) const
 {
-    if (!page.Diagram || loads == nullptr) {
+    if (!page.Diagram) {
         return;
     }
     constexpr int textPoints = 7;
@@ -172,10 +170,8 @@ void PagePainter::PaintDiagram(QPainter& painter, const LoadPicture* loads) cons
     painter.save();
     painter.scale(UnitsPerPoint, UnitsPerPoint);
     painter.setFont(font);
-    const SketchColors colors(ink.Sketch);
     const PageRect& room = *page.Diagram;
-    BeamPainter(painter, QRectF(room.Left, room.Top, room.Width, room.Height), colors, LoadCaptions::Letters)
-        .Draw(*loads);
+    PaintPagePicture(painter, QRectF(room.Left, room.Top, room.Width, room.Height), ink.Sketch, picture);
     painter.restore();
 }
 

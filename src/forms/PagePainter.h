@@ -6,7 +6,7 @@
 #include <QRectF>
 #include <QString>
 
-#include "design/LoadPicture.h"
+#include "forms/PagePicture.h"
 #include "records/RecordPage.h"
 
 class QPainter;
@@ -47,17 +47,17 @@ class PagePainter {
 public:
     PagePainter(const RecordPage& recordPage, QString fontFamily, const PageInk& pageInk);
 
-    /// @param loads  shown in the page's room for a diagram; none leaves it empty
-    void Paint(QPainter& painter, const QRectF& target, const LoadPicture* loads) const;
+    /// @param picture  shown in the page's room for a diagram
+    void Paint(QPainter& painter, const QRectF& target, const PagePicture& picture) const;
 
     /// The rules, tints, signs and the diagram alone, for a screen whose texts are controls.
-    void PaintGround(QPainter& painter, const QRectF& target, const LoadPicture* loads) const;
+    void PaintGround(QPainter& painter, const QRectF& target, const PagePicture& picture) const;
 
 private:
     /// Sets the painter to the units of fonts on the page.
     void Enter(QPainter& painter, const QRectF& target) const;
     void PaintMarks(QPainter& painter) const;
-    void PaintDiagram(QPainter& painter, const LoadPicture* loads) const;
+    void PaintDiagram(QPainter& painter, const PagePicture& picture) const;
     void PaintText(QPainter& painter, const PageText& text) const;
 
     const RecordPage& page;

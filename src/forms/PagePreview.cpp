@@ -14,13 +14,12 @@ PagePreview::PagePreview()
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void PagePreview::Show(const RecordPage& newPage, const std::optional<LoadPicture>& newLoads,
-                       const QString& fontFamily)
+void PagePreview::Show(const RecordPage& newPage, const PagePicture& newPicture, const QString& fontFamily)
 {
     page = newPage;
-    loads = newLoads;
+    picture = newPicture;
     family = fontFamily;
-    setAccessibleDescription(Text(PlainTextOf(page) + (loads ? DescribePicture(*loads) : "")));
+    setAccessibleDescription(Text(PlainTextOf(page) + DescribePagePicture(picture)));
     update();
 }
 
@@ -46,7 +45,7 @@ void PagePreview::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(palette().color(QPalette::Mid));
     painter.setBrush(Qt::white);
     painter.drawRect(sheet.adjusted(0.5, 0.5, -0.5, -0.5));
-    PagePainter(page, family, PageInk::OnPaper()).Paint(painter, sheet, loads ? &*loads : nullptr);
+    PagePainter(page, family, PageInk::OnPaper()).Paint(painter, sheet, picture);
 }
 
 }  // namespace kordavan

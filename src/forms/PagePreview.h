@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
 
-#include "design/LoadPicture.h"
+#include "forms/PagePicture.h"
 #include "records/RecordPage.h"
 
 namespace kordavan {
@@ -15,8 +14,7 @@ class PagePreview : public QWidget {
 public:
     PagePreview();
 
-    void Show(const RecordPage& newPage, const std::optional<LoadPicture>& newLoads,
-              const QString& fontFamily);
+    void Show(const RecordPage& newPage, const PagePicture& newPicture, const QString& fontFamily);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -26,7 +24,7 @@ protected:
 
 private:
     RecordPage page;
-    std::optional<LoadPicture> loads;
+    PagePicture picture;
     QString family;
 };
 

@@ -38,9 +38,9 @@ const CurvePlot* PlotOf(const LoadDiagram& diagram, DiagramPart part)
     return part == DiagramPart::Loads ? nullptr : &diagram.Plots[static_cast<std::size_t>(part) - 1];
 }
 
-bool IsLowest(DiagramPart part)
+bool HasFeet(const CurvePlot* plot)
 {
-    return part == DiagramParts.back();
+    return plot != nullptr && plot->HasFeet;
 }
 
 /// The least of 1, 2, 5, 10, 20, ... and 0.5, 0.2, 0.1, ... that is not below a length.
@@ -73,14 +73,13 @@ PlotPainter::PlotPainter(QPainter& thePainter, const QRectF& area, const QPalett
                          const LoadDiagram& drawn, DiagramPart drawnPart)
     : painter(thePainter),
       diagram(drawn),
-      part(drawnPart),
       plot(PlotOf(drawn, drawnPart)),
       colors(palette),
       ground(palette.color(QPalette::Base)),
       line(thePainter.fontMetrics().height()),
       axis(area, line, drawn.Curves.Length),
       whole(area.adjusted(Inset * line, Inset * line, -Inset * line, -Inset * line)),
-      room(whole.adjusted(0, TitleHeight * line, 0, IsLowest(drawnPart) ? -FeetHeight * line : 0)),
+      room(whole.adjusted(0, TitleHeight * line, 0, HasFeet(plot) ? -FeetHeight * line : 0)),
       axisY(room.center().y())
 {
     painter.setRenderHint(QPainter::Antialiasing);
@@ -91,9 +90,11 @@ PlotPainter::PlotPainter(QPainter& thePainter, const QRectF& area, const QPalett
 
 void PlotPainter::Draw(std::optional<double> cursor)
 {
-    DrawTitle(plot == nullptr ? "Loads" : plot->Title, plot == nullptr ? diagram.Caption : plot->Remark);
+    DrawPlotTitle(
+        painter, whole, colors,
+        plot == nullptr ? PlotTitle{"Loads", diagram.Caption} : PlotTitle{plot->Title, plot->Remark});
     if (plot != nullptr) {
-        DrawFeet(IsLowest(part));
+        DrawFeet(plot->HasFeet);
     }
     if (cursor) {
         DrawCursor(*cursor);
@@ -146,20 +147,21 @@ double PlotPainter::Down(double value) const
     return axisY + value * perValue;
 }
 
-void PlotPainter::DrawTitle(std::string_view title, std::string_view remark)
+void DrawPlotTitle(QPainter& painter, const QRectF& area, const SketchColors& colors, const PlotTitle& title)
 {
-    const QRectF strip(whole.left(), whole.top(), whole.width(), line);
+    const double line = painter.fontMetrics().height();
+    const QRectF strip(area.left(), area.top(), area.width(), line);
     const QFont plain = painter.font();
     QFont bold = plain;
     bold.setBold(true);
     painter.setFont(bold);
     painter.setPen(colors.Text);
-    painter.drawText(strip, Qt::AlignLeft | Qt::AlignVCenter, Text(title));
-    const double titleWidth = painter.fontMetrics().horizontalAdvance(Text(title)) + line;
+    painter.drawText(strip, Qt::AlignLeft | Qt::AlignVCenter, Text(title.Title));
+    const double titleWidth = painter.fontMetrics().horizontalAdvance(Text(title.Title)) + line;
     painter.setFont(plain);
     painter.setPen(colors.Faint);
-    const QString shown =
-        painter.fontMetrics().elidedText(Text(remark), Qt::ElideRight, qRound(strip.width() - titleWidth));
+    const QString shown = painter.fontMetrics().elidedText(Text(title.Remark), Qt::ElideRight,
+                                                           qRound(strip.width() - titleWidth));
     painter.drawText(strip, Qt::AlignRight | Qt::AlignVCenter, shown);
 }
 

@@ -6,6 +6,7 @@
 #include <QRectF>
 #include <array>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "design/LoadDiagram.h"
@@ -42,9 +43,18 @@ private:
     double length;
 };
 
+/// What stands over a part: its title at the left, a remark at the right as far as there is room.
+struct PlotTitle {
+    std::string_view Title;
+    std::string_view Remark{};
+};
+
+/// Writes a title at the top of an area.
+void DrawPlotTitle(QPainter& painter, const QRectF& area, const SketchColors& colors, const PlotTitle& title);
+
 /// Draws one part of a load diagram into a rectangle.
 ///
-/// The title stands at the top, the beam or the filled curve below it. The lowest part has the feet written
+/// The title stands at the top, the beam or the filled curve below it. The lowest curve has the feet written
 /// under it. A label that finds no free place is left out.
 class PlotPainter {
 public:
@@ -61,7 +71,6 @@ private:
 
     void DrawCursor(double feet);
 
-    void DrawTitle(std::string_view title, std::string_view remark);
     void DrawFeet(bool isWritten);
     void DrawAxis();
     void DrawCurve();
@@ -72,7 +81,6 @@ private:
 
     QPainter& painter;
     const LoadDiagram& diagram;
-    DiagramPart part;
     const CurvePlot* plot;  // none of the loads
     SketchColors colors;
     QColor ground;

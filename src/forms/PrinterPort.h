@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "design/LoadPicture.h"
+#include "forms/PagePicture.h"
 #include "records/RecordPage.h"
 
 class QWidget;
@@ -14,7 +14,7 @@ namespace kordavan {
 /// A page to print.
 struct PrintJob {
     const RecordPage& Page;
-    const std::optional<LoadPicture>& Loads;
+    const PagePicture& Picture;
     QString Family;  // of the font
 };
 

@@ -78,8 +78,7 @@ PrintEnd QtPrinters::Print(const PrintJob& job)
     const double scale = std::min(paper.width() / job.Page.Width, paper.height() / job.Page.Height);
     const QRectF sheet((paper.width() - job.Page.Width * scale) / 2, 0, job.Page.Width * scale,
                        job.Page.Height * scale);
-    PagePainter(job.Page, job.Family, PageInk::OnPaper())
-        .Paint(painter, sheet, job.Loads ? &*job.Loads : nullptr);
+    PagePainter(job.Page, job.Family, PageInk::OnPaper()).Paint(painter, sheet, job.Picture);
     if (!painter.isActive() || sheet.isEmpty()) {
         return PrintEnd::NotDrawn;
     }

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 
 #include "forms/Kit.h"
 #include "forms/PagePainter.h"
@@ -16,11 +15,11 @@ namespace {
 
 constexpr double MostEnlarged = 1.3;
 
-/// The first cells of the blocks, by which the keyboard walks down the sheet.
-constexpr std::array<std::size_t, 5> BlockHeads{5, 7, 23, 12, 166};
-
 QString CellName(const PageText& text, int other)
 {
+    if (!text.Name.empty()) {
+        return Text(text.Name);
+    }
     return text.Label == 0 ? QStringLiteral("Line%1").arg(other) : QStringLiteral("Label%1").arg(text.Label);
 }
 
@@ -42,13 +41,12 @@ RecordSheet::RecordSheet()
     setSizePolicy(policy);
 }
 
-void RecordSheet::Show(const RecordPage& newPage, const std::optional<LoadPicture>& newLoads,
-                       const QString& fontFamily)
+void RecordSheet::Show(const RecordPage& newPage, const PagePicture& newPicture, const QString& fontFamily)
 {
     page = newPage;
-    loads = newLoads;
+    picture = newPicture;
     family = fontFamily;
-    setAccessibleDescription(loads ? Text(DescribePicture(*loads)) : QString());
+    setAccessibleDescription(Text(DescribePagePicture(picture)));
     MakeCells();
     PlaceCells();
     updateGeometry();
@@ -97,11 +95,11 @@ void RecordSheet::MakeCells()
         label->setTextFormat(Qt::PlainText);
         label->setObjectName(CellName(text, text.Label == 0 ? ++other : 0));
         label->setAlignment(AlignmentOf(text.Align));
-        const bool isHead = std::find(BlockHeads.begin(), BlockHeads.end(), text.Label) != BlockHeads.end();
-        label->setTextInteractionFlags(isHead ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
-                                              : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
+        label->setTextInteractionFlags(text.StartsBlock
+                                           ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                           : Qt::TextInteractionFlags(Qt::TextSelectableByMouse));
         label->installEventFilter(this);
-        label->setFocusPolicy(isHead ? Qt::StrongFocus : Qt::ClickFocus);
+        label->setFocusPolicy(text.StartsBlock ? Qt::StrongFocus : Qt::ClickFocus);
         label->show();
         cells.push_back({label, &text});
     }
@@ -153,8 +151,7 @@ bool RecordSheet::eventFilter(QObject* watched, QEvent* event)
 void RecordSheet::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    PagePainter(page, family, PageInk::OnScreen(palette()))
-        .PaintGround(painter, Sheet(), loads ? &*loads : nullptr);
+    PagePainter(page, family, PageInk::OnScreen(palette())).PaintGround(painter, Sheet(), picture);
     for (const Cell& cell : cells) {
         if (cell.Shown->hasFocus()) {
             constexpr double thickness = 2;

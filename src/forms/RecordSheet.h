@@ -1,10 +1,9 @@
 #pragma once
 
 #include <QWidget>
-#include <optional>
 #include <vector>
 
-#include "design/LoadPicture.h"
+#include "forms/PagePicture.h"
 #include "records/RecordPage.h"
 
 class QLabel;
@@ -19,9 +18,8 @@ class RecordSheet : public QWidget {
 public:
     RecordSheet();
 
-    /// @param newLoads  for the page's diagram; none leaves its room empty
-    void Show(const RecordPage& newPage, const std::optional<LoadPicture>& newLoads,
-              const QString& fontFamily);
+    /// @param newPicture  for the page's diagram
+    void Show(const RecordPage& newPage, const PagePicture& newPicture, const QString& fontFamily);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -47,7 +45,7 @@ private:
     QRectF Sheet() const;
 
     RecordPage page;
-    std::optional<LoadPicture> loads;
+    PagePicture picture;
     QString family;
     std::vector<Cell> cells;
 };

@@ -6,19 +6,11 @@
 
 #include "forms/BeamPainter.h"
 #include "forms/Kit.h"
+#include "forms/SketchParts.h"
 
 namespace kordavan {
 
 namespace {
-
-/// A line between two ticks.
-void DrawDimension(QPainter& painter, QPointF from, QPointF to, double tick)
-{
-    const QPointF across = from.x() == to.x() ? QPointF(tick, 0) : QPointF(0, tick);
-    painter.drawLine(from, to);
-    painter.drawLine(from - across, from + across);
-    painter.drawLine(to - across, to + across);
-}
 
 /// The outline of rolled steel without the rounding of its corners.
 QPainterPath SteelPath(const SectionPicture& picture, const QRectF& section)

@@ -6,17 +6,24 @@
 #include "design/NewBeam.h"
 #include "forms/EntryDiagram.h"
 #include "forms/Form1.h"
+#include "forms/Form10.h"
 #include "forms/Form11.h"
 #include "forms/Form13.h"
+#include "forms/Form18.h"
+#include "forms/Form19.h"
 #include "forms/Form2.h"
+#include "forms/Form20.h"
 #include "forms/Form21.h"
 #include "forms/Form22.h"
+#include "forms/Form23.h"
 #include "forms/Form25.h"
+#include "forms/Form28.h"
 #include "forms/Form3.h"
 #include "forms/Form5.h"
 #include "forms/Form6.h"
 #include "forms/Form7.h"
 #include "forms/NumericBox.h"
+#include "records/ColumnDesk.h"
 #include "records/DefaultsFile.h"
 #include "records/RecentFiles.h"
 
@@ -36,8 +43,8 @@ void FrontUser::Tell(const Message& message)
     }
 }
 
-Walk::Walk(Session& currentSession, UserPort& user, DesktopPort& desk)
-    : session(currentSession), desktop(desk), frontUser(user)
+Walk::Walk(Session& currentSession, ColumnSession& currentColumns, UserPort& user, DesktopPort& desk)
+    : session(currentSession), columns(currentColumns), desktop(desk), frontUser(user)
 {
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*old*/, QWidget* now) { RememberBox(now); });
@@ -92,6 +99,18 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<EntryDiagram>(*this, EntryDiagramKind::Overhanging);
         case Screen::HipDiagram:
             return std::make_unique<EntryDiagram>(*this, EntryDiagramKind::HipValley);
+        case Screen::Columns:
+            return std::make_unique<Form18>(*this);
+        case Screen::WoodColumns:
+            return std::make_unique<Form20>(*this);
+        case Screen::SteelColumns:
+            return std::make_unique<Form10>(*this);
+        case Screen::WoodColumnRecord:
+            return std::make_unique<Form19>(*this);
+        case Screen::SteelColumnRecord:
+            return std::make_unique<Form23>(*this);
+        case Screen::StudRecord:
+            return std::make_unique<Form28>(*this);
     }
     return nullptr;
 }
@@ -171,7 +190,7 @@ Form* Walk::SeenForm(Screen screen) const
 
 void Walk::AskToExit()
 {
-    const Message question = ExitQuestion(session, desktop.MinutesSinceStart());
+    const Message question = ExitQuestion(session, desktop.MinutesSinceStart(), UnsavedColumnWork(columns));
     if (frontUser.Ask(question)) {
         desktop.EndProgram();
     }

@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "columns/ColumnSession.h"
 #include "core/Message.h"
 #include "design/Session.h"
 #include "forms/DesktopPort.h"
@@ -31,7 +32,13 @@ enum class Screen {
     Calculator,
     SimpleDiagram,
     OverhangDiagram,
-    HipDiagram
+    HipDiagram,
+    Columns,
+    WoodColumns,
+    SteelColumns,
+    WoodColumnRecord,
+    SteelColumnRecord,
+    StudRecord
 };
 
 /// The person as the forms speak to them: what is told goes on to the desk, and afterwards the box that it
@@ -56,10 +63,11 @@ class Walk : public QObject {
     Q_OBJECT
 
 public:
-    Walk(Session& session, UserPort& user, DesktopPort& desktop);
+    Walk(Session& session, ColumnSession& columns, UserPort& user, DesktopPort& desktop);
     ~Walk() override;
 
     Session& CurrentSession() { return session; }
+    ColumnSession& Columns() { return columns; }
     UserPort& User() { return frontUser; }
     DesktopPort& Desktop() { return desktop; }
 
@@ -112,6 +120,7 @@ private:
     void Center(Form& form) const;
 
     Session& session;
+    ColumnSession& columns;
     DesktopPort& desktop;
     FrontUser frontUser;
     std::map<Screen, std::unique_ptr<Form>> forms;

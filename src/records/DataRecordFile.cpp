@@ -6,6 +6,7 @@
 
 #include "records/DataRecordLayout.h"
 #include "records/DataSheetCaptions.h"
+#include "records/PrintableText.h"
 #include "records/RecordFile.h"
 
 namespace kordavan {
@@ -56,27 +57,16 @@ void ShowCaptions(DataSheet& sheet)
     }
 }
 
-/// A damaged file may hold what no line of a page can show.
-std::string Printable(std::string text)
-{
-    constexpr unsigned char firstPrintable = 0x20;
-    constexpr unsigned char deleteMark = 0x7F;
-    const auto isControl = [](unsigned char c) { return c < firstPrintable || c == deleteMark; };
-    std::replace_if(text.begin(), text.end(), isControl, ' ');
-    text.erase(text.find_last_not_of(' ') + 1);
-    return text;
-}
-
 void ReadTexts(const PackedRecord& record, DataSheet& sheet)
 {
     for (std::size_t label = 0; label < DataSheet::LabelCount; ++label) {
         if (IsStored(label)) {
-            sheet[label] = Printable(record.Text(LabelName(label)));
+            sheet[label] = PrintableText(record, LabelName(label));
         }
     }
-    sheet.Label133Missing = Printable(record.Text("Label133Missing"));
+    sheet.Label133Missing = PrintableText(record, "Label133Missing");
     for (std::size_t k = 0; k < ReportNoteCount; ++k) {
-        sheet.ReportNotes[k] = Printable(record.Text("ReportNotes", k));
+        sheet.ReportNotes[k] = PrintableText(record, "ReportNotes", k);
     }
 }
 

@@ -1,97 +1,26 @@
 #include "records/DataRecordPage.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
 #include "records/DataSheetBlocks.h"
+#include "records/PageWriter.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr double Margin = 36;
-constexpr double ContentWidth = 612 - 2 * Margin;
+constexpr PageColumn CaptionColumn{0, 112, PageAlign::Left};
 
-/// A column of the page: its left edge from the margin and its width.
-struct Column {
-    double Left;
-    double Width;
-    PageAlign Align = PageAlign::Right;
-};
-
-constexpr Column WholeWidth{0, ContentWidth, PageAlign::Left};
-constexpr Column CaptionColumn{0, 112, PageAlign::Left};
-
-/// Writes cells line by line down the page.
-class PageWriter {
-public:
-    PageWriter(const DataSheet& filled, const PageOptions& options) : sheet(filled)
-    {
-        constexpr double fine = 0.25;
-        if (options.HighDpi) {
-            page.TextSize = 8.5;
-            page.RuleThickness = fine;
-        }
-        page.Title = sheet[1] + "  " + sheet[2];
-    }
-
-    RecordPage& Page() { return page; }
-    double Top() const { return top; }
-    double LineHeight() const { return lineHeight; }
-
-    void Cell(std::size_t label, const Column& column, PageStyle style = PageStyle::Figure)
-    {
-        Text(label, sheet[label], column, style);
-    }
-
-    void Text(std::size_t label, std::string_view text, const Column& column, PageStyle style)
-    {
-        page.Texts.push_back({.Label = label,
-                              .Text = std::string(text),
-                              .Area = {Margin + column.Left, top, column.Width,
-                                       style == PageStyle::Title ? titleHeight : lineHeight},
-                              .Align = column.Align,
-                              .Style = style});
-    }
-
-    void NextLine(double lines = 1) { top += lines * lineHeight; }
-
-    void Rule()
-    {
-        top += ruleGap;
-        page.Rules.push_back({Margin, top, ContentWidth});
-        top += ruleGap;
-    }
-
-private:
-    static constexpr double ruleGap = 4;
-    static constexpr double titleHeight = 19;
-    static constexpr double lineHeight = 12.3;
-
-    const DataSheet& sheet;
-    RecordPage page;
-    double top = Margin;
-};
-
-void WriteHeading(PageWriter& writer, const DataSheet& sheet)
+PageHeading HeadingOf(const DataSheet& sheet)
 {
-    constexpr Column middle{0, ContentWidth, PageAlign::Center};
-    constexpr Column left{0, 380, PageAlign::Left};
-    constexpr Column right{380, ContentWidth - 380, PageAlign::Left};
-    writer.Cell(132, middle, PageStyle::HeaderLine);
-    writer.NextLine();
-    writer.Text(0, sheet.Label133Missing, middle, PageStyle::HeaderLine);
-    writer.NextLine(1.25);
-    writer.Cell(1, left);
-    writer.Cell(4, right);
-    writer.NextLine();
-    writer.Cell(2, left);
-    writer.Cell(169, right);
-    writer.NextLine();
-    writer.Cell(3, WholeWidth);
-    writer.NextLine();
-    writer.Rule();
+    return {.Heading1 = {132, sheet[132]},
+            .Heading2 = {0, sheet.Label133Missing},
+            .Project = {1, sheet[1]},
+            .Id = {2, sheet[2]},
+            .Description = {3, sheet[3]},
+            .Date = {4, sheet[4]},
+            .Initials = {169, sheet[169]}};
 }
 
 /// The attribute line goes on from the member line by commas; on a line of its own it begins without one.
@@ -104,20 +33,22 @@ std::string_view WithoutLeadingComma(std::string_view line)
 void WriteMember(PageWriter& writer, const DataSheet& sheet)
 {
     writer.NextLine(0.15);
-    writer.Cell(5, WholeWidth, PageStyle::Title);
+    writer.StartBlock();
+    writer.Cell(5, WholePageWidth, PageStyle::Title);
     writer.NextLine(1.6);
-    writer.Text(6, WithoutLeadingComma(sheet[6]), WholeWidth, PageStyle::Figure);
+    writer.Text(6, WithoutLeadingComma(sheet[6]), WholePageWidth, PageStyle::Figure);
     writer.NextLine(1.35);
 }
 
 void WriteChecks(PageWriter& writer, const PageOptions& options)
 {
-    constexpr Column critical{112, 58};
-    constexpr Column actual{170, 58};
-    constexpr Column status{242, 44, PageAlign::Left};
-    constexpr Column ratio{286, 40};
+    constexpr PageColumn critical{112, 58};
+    constexpr PageColumn actual{170, 58};
+    constexpr PageColumn status{242, 44, PageAlign::Left};
+    constexpr PageColumn ratio{286, 40};
     constexpr double tableWidth = 330;
     const double first = writer.Top();
+    writer.StartBlock();
     writer.Cell(7, critical, PageStyle::ColumnHead);
     writer.Cell(8, actual, PageStyle::ColumnHead);
     writer.Cell(150, status, PageStyle::ColumnHead);
@@ -133,23 +64,23 @@ void WriteChecks(PageWriter& writer, const PageOptions& options)
         writer.NextLine();
     }
     if (options.HighDpi) {
-        writer.Page().Tints.push_back({Margin, rows, tableWidth, writer.Top() - rows});
+        writer.Page().Tints.push_back({PageMargin, rows, tableWidth, writer.Top() - rows});
     }
     if (options.HasDiagram) {
         const double gap = options.HighDpi ? 4 : 16;
-        const double left = Margin + tableWidth + gap;
+        const double left = PageMargin + tableWidth + gap;
         const double top = options.HighDpi ? first : rows;
-        writer.Page().Diagram = PageRect{left, top, Margin + ContentWidth - left, writer.Top() - top};
+        writer.Page().Diagram = PageRect{left, top, PageMargin + PageContentWidth - left, writer.Top() - top};
     }
     writer.Rule();
 }
 
-constexpr Column FbColumn{112, 56};
-constexpr Column FvColumn{176, 56};
-constexpr Column EColumn{240, 64};
-constexpr Column FcPerpColumn{312, 72};
-constexpr Column LastColumn{392, 56};
-constexpr Column BesideFb{180, 300, PageAlign::Left};
+constexpr PageColumn FbColumn{112, 56};
+constexpr PageColumn FvColumn{176, 56};
+constexpr PageColumn EColumn{240, 64};
+constexpr PageColumn FcPerpColumn{312, 72};
+constexpr PageColumn LastColumn{392, 56};
+constexpr PageColumn BesideFb{180, 300, PageAlign::Left};
 
 void WriteValueRow(PageWriter& writer, const std::array<std::size_t, 5>& labels, PageStyle style)
 {
@@ -165,6 +96,7 @@ void WriteValues(PageWriter& writer)
 {
     WriteValueRow(writer, {0, 19, 20, 21, 108}, PageStyle::ColumnHead);
     writer.NextLine();
+    writer.StartBlock();
     WriteValueRow(writer, {23, 24, 25, 29, 167}, PageStyle::Figure);
     writer.NextLine();
     WriteValueRow(writer, {22, 27, 26, 28, 70}, PageStyle::Figure);
@@ -178,7 +110,7 @@ void WriteValues(PageWriter& writer)
     WriteValueRow(writer, {33, 37, 0, 0, 0}, PageStyle::Figure);
     writer.NextLine();
     WriteValueRow(writer, {47, 0, 41, 0, 0}, PageStyle::Figure);
-    constexpr Column beside{238, 120, PageAlign::Left};
+    constexpr PageColumn beside{238, 120, PageAlign::Left};
     writer.Cell(48, beside);
     writer.NextLine();
 }
@@ -186,7 +118,7 @@ void WriteValues(PageWriter& writer)
 void WriteServiceAndStability(PageWriter& writer, const DataSheet& sheet)
 {
     if (!sheet[176].empty()) {
-        writer.Cell(176, WholeWidth, PageStyle::Caption);
+        writer.Cell(176, WholePageWidth, PageStyle::Caption);
         writer.NextLine();
     }
     WriteValueRow(writer, {34, 38, 42, 46, 49}, PageStyle::Figure);
@@ -200,7 +132,7 @@ void WriteServiceAndStability(PageWriter& writer, const DataSheet& sheet)
     writer.Cell(191, FbColumn);
     writer.Cell(193, BesideFb);
     writer.NextLine();
-    writer.Cell(194, WholeWidth, PageStyle::ColumnHead);
+    writer.Cell(194, WholePageWidth, PageStyle::ColumnHead);
     writer.NextLine();
     writer.Rule();
 }
@@ -228,6 +160,7 @@ void WriteSpans(PageWriter& writer)
     constexpr double step = 188;
     constexpr double captionWidth = 96;
     constexpr double figureWidth = 64;
+    writer.StartBlock();
     for (const auto& row : SpanRows) {
         double left = 0;
         for (const Pair& pair : row) {
@@ -242,8 +175,8 @@ void WriteSpans(PageWriter& writer)
         }
         writer.NextLine();
     }
-    constexpr Column first{112, 100, PageAlign::Left};
-    constexpr Column second{232, 100, PageAlign::Left};
+    constexpr PageColumn first{112, 100, PageAlign::Left};
+    constexpr PageColumn second{232, 100, PageAlign::Left};
     writer.Cell(60, CaptionColumn, PageStyle::Caption);
     writer.Cell(71, first);
     writer.Cell(133, second);
@@ -265,11 +198,12 @@ constexpr std::array LoadRows{
 
 void WriteLoads(PageWriter& writer)
 {
-    constexpr Column totalCaption{74, 62, PageAlign::Left};
-    constexpr Column total{136, 84, PageAlign::Left};
-    constexpr Column liveCaption{228, 62, PageAlign::Left};
-    constexpr Column live{290, 84, PageAlign::Left};
-    constexpr Column backspan{390, 150, PageAlign::Left};
+    constexpr PageColumn totalCaption{74, 62, PageAlign::Left};
+    constexpr PageColumn total{136, 84, PageAlign::Left};
+    constexpr PageColumn liveCaption{228, 62, PageAlign::Left};
+    constexpr PageColumn live{290, 84, PageAlign::Left};
+    constexpr PageColumn backspan{390, 150, PageAlign::Left};
+    writer.StartBlock();
     writer.Cell(166, {0, 70, PageAlign::Left}, PageStyle::ColumnHead);
     writer.Cell(72, totalCaption, PageStyle::Caption);
     writer.Cell(73, total);
@@ -278,7 +212,7 @@ void WriteLoads(PageWriter& writer)
     writer.Cell(170, backspan, PageStyle::Caption);
     writer.NextLine();
     constexpr double captionWidth = 66;
-    constexpr double cellWidth = (ContentWidth - captionWidth) / 6;
+    constexpr double cellWidth = (PageContentWidth - captionWidth) / 6;
     for (const LoadRow& row : LoadRows) {
         writer.Cell(row.Caption, {0, captionWidth, PageAlign::Left}, PageStyle::Caption);
         for (std::size_t k = 0; k < row.Count; ++k) {
@@ -286,32 +220,16 @@ void WriteLoads(PageWriter& writer)
         }
         writer.NextLine();
     }
-    writer.Cell(187, WholeWidth, PageStyle::Caption);
+    writer.Cell(187, WholePageWidth, PageStyle::Caption);
     writer.NextLine();
-}
-
-void WriteNotes(PageWriter& writer, const DataSheet& sheet)
-{
-    const bool hasNotes = std::any_of(sheet.ReportNotes.begin(), sheet.ReportNotes.end(),
-                                      [](const std::string& note) { return !note.empty(); });
-    if (!hasNotes) {
-        return;
-    }
-    writer.Rule();
-    writer.Text(0, "Notes", WholeWidth, PageStyle::Title);
-    writer.NextLine(1.6);
-    for (const std::string& note : sheet.ReportNotes) {
-        writer.Text(0, note, WholeWidth, PageStyle::Note);
-        writer.NextLine();
-    }
 }
 
 }  // namespace
 
 RecordPage LayOutDataRecord(const DataSheet& sheet, const PageOptions& options)
 {
-    PageWriter writer(sheet, options);
-    WriteHeading(writer, sheet);
+    PageWriter writer(sheet[1] + "  " + sheet[2], sheet.Labels, options);
+    WritePageHeading(writer, HeadingOf(sheet));
     WriteMember(writer, sheet);
     WriteChecks(writer, options);
     WriteValues(writer);
@@ -319,7 +237,7 @@ RecordPage LayOutDataRecord(const DataSheet& sheet, const PageOptions& options)
     WriteSpans(writer);
     WriteLoads(writer);
     if (options.HasNotes) {
-        WriteNotes(writer, sheet);
+        WritePageNotes(writer, sheet.ReportNotes);
     }
     return std::move(writer.Page());
 }

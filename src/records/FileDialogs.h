@@ -39,6 +39,19 @@ inline constexpr FileDialogText SaveCustomValuesDialog{.Title = "Save Custom Val
                                                        .Filters = CustomValuesFilters,
                                                        .SelectedFilter = 2};
 
+inline constexpr std::string_view CustomPostFilters = "All Files (*.*)|*.*|Kordavan Files (*.CPV)|*.CPV|";
+
+inline constexpr FileDialogText OpenCustomPostDialog{.Title = "Open Custom Post Value File",
+                                                     .FileName = "*.CPV",
+                                                     .DefaultExtension = {},
+                                                     .Filters = CustomPostFilters,
+                                                     .SelectedFilter = 2};
+inline constexpr FileDialogText SaveCustomPostDialog{.Title = "Save Custom Values As",
+                                                     .FileName = "*.CPV",
+                                                     .DefaultExtension = "CPV",
+                                                     .Filters = CustomPostFilters,
+                                                     .SelectedFilter = 2};
+
 inline constexpr std::string_view DataRecordFilters = "All Files (*.*)|*.*|Kordavan Files (*.Dat)|*.Dat|";
 
 inline constexpr FileDialogText OpenDataRecordDialog{.Title = "Open Data Record",
@@ -50,6 +63,45 @@ inline constexpr FileDialogText SaveDataRecordDialog{.Title = "Save Data Record 
                                                      .FileName = "*.Dat",
                                                      .DefaultExtension = "Dat",
                                                      .Filters = DataRecordFilters,
+                                                     .SelectedFilter = 2};
+
+inline constexpr std::string_view WoodColumnFilters = "All Files (*.*)|*.*|Kordavan Files (*.Col)|*.Col|";
+
+inline constexpr FileDialogText OpenWoodColumnDialog{.Title = "Open Column Record",
+                                                     .FileName = "*.Col",
+                                                     .DefaultExtension = {},
+                                                     .Filters = WoodColumnFilters,
+                                                     .SelectedFilter = 2};
+inline constexpr FileDialogText SaveWoodColumnDialog{.Title = "Save Column Record As",
+                                                     .FileName = "*.Col",
+                                                     .DefaultExtension = "Col",
+                                                     .Filters = WoodColumnFilters,
+                                                     .SelectedFilter = 2};
+
+inline constexpr std::string_view SteelColumnFilters = "All Files (*.*)|*.*|Kordavan Files (*.SCo)|*.SCo|";
+
+inline constexpr FileDialogText OpenSteelColumnDialog{.Title = "Open Steel Column Record",
+                                                      .FileName = "*.SCo",
+                                                      .DefaultExtension = {},
+                                                      .Filters = SteelColumnFilters,
+                                                      .SelectedFilter = 2};
+inline constexpr FileDialogText SaveSteelColumnDialog{.Title = "Save Steel Column Record As",
+                                                      .FileName = "*.SCo",
+                                                      .DefaultExtension = "SCo",
+                                                      .Filters = SteelColumnFilters,
+                                                      .SelectedFilter = 2};
+
+inline constexpr std::string_view StudColumnFilters = "All Files (*.*)|*.*|Kordavan Files (*.Wsc)|*.Wsc|";
+
+inline constexpr FileDialogText OpenStudColumnDialog{.Title = "Open Stud Column Record",
+                                                     .FileName = "*.Wsc",
+                                                     .DefaultExtension = {},
+                                                     .Filters = StudColumnFilters,
+                                                     .SelectedFilter = 2};
+inline constexpr FileDialogText SaveStudColumnDialog{.Title = "Save Stud Column Record As",
+                                                     .FileName = "*.Wsc",
+                                                     .DefaultExtension = "Wsc",
+                                                     .Filters = StudColumnFilters,
                                                      .SelectedFilter = 2};
 
 inline constexpr FileDialogText SavePdfDialog{.Title = "Save as PDF",

@@ -54,6 +54,18 @@ constexpr auto LabelFields(std::size_t offset, std::size_t length)
     return fields;
 }
 
+/// One field for each label listed: texts of one length, one after the other.
+template <std::size_t Count>
+constexpr auto ListedLabelFields(std::size_t offset, std::size_t length,
+                                 const std::array<std::size_t, Count>& labels)
+{
+    std::array<RecordField, Count> fields{};
+    for (std::size_t k = 0; k < Count; ++k) {
+        fields[k] = TextField(LabelName(labels[k]), offset + k * length, length);
+    }
+    return fields;
+}
+
 /// The fields of a record whose description has runs of labels in it.
 template <std::size_t... Counts>
 constexpr auto JoinFields(const std::array<RecordField, Counts>&... runs)

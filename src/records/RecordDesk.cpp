@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "records/DataSheetFill.h"
+#include "records/SheetHeading.h"
 
 namespace kordavan {
 
@@ -24,13 +25,6 @@ constexpr std::string_view LostOnCriteria =
     "You may reload the Data Record text file later if you choose to return.\n\n"
     "Do you wish to leave it?";
 
-/// A cell of the sheet's head, with the prefix that it has on the screen.
-struct HeadCell {
-    std::size_t Label;
-    std::string_view Prefix;
-    std::string RecordHeading::*Text;
-};
-
 constexpr std::array HeadCells{
     HeadCell{1, "Project: ", &RecordHeading::Project},
     HeadCell{2, "Beam ID: ", &RecordHeading::BeamId},
@@ -41,20 +35,9 @@ constexpr std::array HeadCells{
 
 void HeadSheet(const RecordHeading& heading, DataSheet& sheet)
 {
-    for (const HeadCell& cell : HeadCells) {
-        sheet[cell.Label] = std::string(cell.Prefix) + heading.*cell.Text;
-    }
+    WriteHeadCells(HeadCells, heading, sheet.Labels);
     sheet[132] = heading.Heading1;
     sheet.Label133Missing = heading.Heading2;
-}
-
-/// A prefix with nothing behind it has lost its last blank in the file.
-std::string WithoutPrefix(std::string_view text, std::string_view prefix)
-{
-    if (text == prefix.substr(0, prefix.size() - 1)) {
-        return {};
-    }
-    return std::string(text.starts_with(prefix) ? text.substr(prefix.size()) : text);
 }
 
 RecordHeading HeadingOfProblem(const Session& session, CalendarDay today)
@@ -71,10 +54,7 @@ RecordHeading HeadingOfProblem(const Session& session, CalendarDay today)
 /// The heading that stands on a sheet of our own.
 RecordHeading HeadingOnSheet(const DataSheet& sheet)
 {
-    RecordHeading heading;
-    for (const HeadCell& cell : HeadCells) {
-        heading.*cell.Text = WithoutPrefix(sheet[cell.Label], cell.Prefix);
-    }
+    RecordHeading heading = ReadHeadCells(HeadCells, sheet.Labels);
     heading.Heading1 = sheet[132];
     heading.Heading2 = sheet.Label133Missing;
     return heading;

@@ -26,6 +26,15 @@ struct PageText {
     PageRect Area;
     PageAlign Align = PageAlign::Left;
     PageStyle Style = PageStyle::Figure;
+    std::string Name{};        // of a cell that goes by a name instead
+    bool StartsBlock = false;  // where the keyboard stops on its way down the page
+};
+
+/// What a page shows besides its sheet.
+struct PageOptions {
+    bool HighDpi = false;    // finer lines and tints
+    bool HasNotes = true;    // the notes stand at its foot
+    bool HasDiagram = true;  // the loads are known, not only their texts
 };
 
 /// A horizontal line across the page.

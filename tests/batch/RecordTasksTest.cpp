@@ -193,11 +193,14 @@ TEST_P(WholeRecordTest, IsWrittenAsItIsRead)
 
 INSTANTIATE_TEST_SUITE_P(
     Kinds, WholeRecordTest,
-    testing::Values(WholeRecordCase{"custom values", "custom-values", -1, std::string(CustomValuesFields),
-                                    CustomValuesBytes().All()},
-                    WholeRecordCase{"listed products", "scl", 113, SclFields(), SclBytes().All()},
-                    WholeRecordCase{"own products", "scl-custom", 2000, CustomSclFields(),
-                                    CustomSclBytes().All()}),
+    testing::Values(
+        WholeRecordCase{"custom post values", "custom-post", 100,
+                        R"("Fc":1450,"E":1.75,"SpeciesText":"Hackberry")",
+                        std::string("\x64\0\xAA\x05\0\0\xE0\x3F", 8) + "Hackberry" + std::string(21, ' ')},
+        WholeRecordCase{"custom values", "custom-values", -1, std::string(CustomValuesFields),
+                        CustomValuesBytes().All()},
+        WholeRecordCase{"listed products", "scl", 113, SclFields(), SclBytes().All()},
+        WholeRecordCase{"own products", "scl-custom", 2000, CustomSclFields(), CustomSclBytes().All()}),
     CaseName);
 
 TEST(WriteRecord, PutsTheCellsOfADataRecordAtTheirPlaces)
@@ -224,6 +227,77 @@ TEST(WriteRecord, PutsTheCellsOfADataRecordAtTheirPlaces)
     EXPECT_THAT(text, HasSubstr("\"Label133\":\"R2= 3 in\u00B2\",\"Label12\":\"\",\"SteelRecord\":true,"));
     EXPECT_THAT(text, testing::EndsWith(R"("Label194":"  Rb > 50!"},"bytes":4809})"));
 }
+
+struct TextRecordCase {
+    std::string_view Kind;
+    std::string Fields;
+    std::string Bytes;
+    std::string_view FirstRead;  // the beginning of what comes back, and a part of it
+    std::string_view PartRead;
+    std::string_view Loaded;
+};
+
+class TextRecordTest : public testing::TestWithParam<TextRecordCase> {};
+
+TEST_P(TextRecordTest, IsWrittenAndReadByTheNamesOfItsCells)
+{
+    const TextRecordCase& c = GetParam();
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("a");
+    const std::string kind = R"(-record","kind":")" + std::string(c.Kind) + R"(","path":"PATH")";
+    const std::string bytes = R"("bytes":)" + std::to_string(c.Bytes.size()) + "}";
+    EXPECT_EQ(Answer(LineWith(R"({"task":"write)" + kind + R"(,"fields":{)" + c.Fields + "}}", path)),
+              R"({"status":"done","messages":[],)" + bytes);
+    EXPECT_EQ(FirstDifference(FileBytes(path), c.Bytes), "");
+    const std::string text = Answer(LineWith(R"({"task":"read)" + kind + "}", path));
+    EXPECT_THAT(text,
+                StartsWith(R"({"status":"done","messages":[{"kind":"alert","title":"Kordavan","text":")" +
+                           std::string(c.Loaded)));
+    EXPECT_THAT(text, HasSubstr(R"("fields":{)" + std::string(c.FirstRead)));
+    EXPECT_THAT(text, HasSubstr(c.PartRead));
+    EXPECT_THAT(text, testing::EndsWith("}," + bytes));
+}
+
+RecordBytes BlankText(std::size_t size, int tag)
+{
+    return RecordBytes(size).Short(0, tag).Blanks(2, size - 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Columns, TextRecordTest,
+    testing::Values(
+        TextRecordCase{"column",
+                       R"("Label3":"Barn","Label84":"0.8 too long","SheathNote":"Sheathed",)"
+                       R"("Sheathnote2":"D1","ReportNotes":["","note"])",
+                       BlankText(1514, 777)
+                           .Text(2, "Barn")
+                           .Text(713, "0.8 to")
+                           .Text(719, "Sheathed")
+                           .Text(844, "D1")
+                           .Text(1004, "note")
+                           .All(),
+                       R"("RecordTag":777,"Label3":"Barn","Label4":"",)",
+                       R"("Label83":"","Label84":"0.8 to","SheathNote":"Sheathed","Sheathnote2":"D1",)"
+                       R"("ReportNotes":["","note","","","","",""])",
+                       "The column data you have loaded is text"},
+        TextRecordCase{"steel-column", R"("Label10":"Pipe","Label82":"4.41","Label84":"OK")",
+                       BlankText(1156, 888).Text(133, "Pipe").Text(543, "4.41").Text(555, "OK").All(),
+                       R"("RecordTag":888,"Label3":"",)",
+                       R"("Label82":"4.41","Label83":"","Label84":"OK","ReportNotes":["",)",
+                       "The steel column data you have loaded is text"},
+        TextRecordCase{
+            "stud-column",
+            R"("columnID":"S1","BegC":"1.23456","BreadthCombo":3,"DepthCombo":-1,"RepIBCCheck":"1")",
+            BlankText(859, 889)
+                .Text(67, "S1")
+                .Text(140, "1.2345")
+                .Short(178, 3)
+                .Short(180, -1)
+                .Text(263, "1")
+                .All(),
+            R"("RecordTag":889,"ColumnProj":"","ColumnDescription":"","columnID":"S1",)",
+            R"("WindStudHt":"","BreadthCombo":3,"DepthCombo":-1,"WindStudSpacing":"",)",
+            "The stud column data you have loaded may printed by selecting the Report Button."}));
 
 TEST(WriteRecord, LeavesProductsBlankThatAreNotGiven)
 {
@@ -266,20 +340,26 @@ constexpr std::string_view NotCriteriaText =
 
 INSTANTIATE_TEST_SUITE_P(
     Files, WrongKindTest,
-    testing::Values(WrongKindCase{"criteria", BlankDefaults(4321).All(), NotCriteriaText},
-                    WrongKindCase{"criteria", "", NotCriteriaText},
-                    WrongKindCase{"defaults", BlankCriteria(-2007).All(),
-                                  "A new Default Values file has been created for you.  You may set your "},
-                    WrongKindCase{
-                        "custom-values", CustomValuesBytes().Short(0, 1).All(),
-                        "The selected file does not contain Kordavan Custom Values.  Please check "},
-                    WrongKindCase{"data-record", RecordBytes(4809).Short(0, 554).All(),
-                                  "The file you have selected does not contain a Kordavan Data Record.  "},
-                    WrongKindCase{"scl", CustomSclBytes().All(),
-                                  "Kordavan23.LVL does not contain Kordavan SCL Values.  "},
-                    WrongKindCase{"scl-custom", SclBytes().All(),
-                                  "KordavanCustom.LVL does not contain Kordavan SCL Values.  "},
-                    WrongKindCase{"defaults", "", "A new Default Values file has been created for you.  "}));
+    testing::Values(
+        WrongKindCase{"criteria", BlankDefaults(4321).All(), NotCriteriaText},
+        WrongKindCase{"criteria", "", NotCriteriaText},
+        WrongKindCase{"defaults", BlankCriteria(-2007).All(),
+                      "A new Default Values file has been created for you.  You may set your "},
+        WrongKindCase{"custom-values", CustomValuesBytes().Short(0, 1).All(),
+                      "The selected file does not contain Kordavan Custom Values.  Please check "},
+        WrongKindCase{"data-record", RecordBytes(4809).Short(0, 554).All(),
+                      "The file you have selected does not contain a Kordavan Data Record.  "},
+        WrongKindCase{"column", RecordBytes(1514).Short(0, 888).All(),
+                      "The file you have selected does not contain a Kordavan Column Record.  "},
+        WrongKindCase{"steel-column", RecordBytes(1514).Short(0, 777).All(),
+                      "The file you have selected does not contain a Kordavan Steel Column Record.  "},
+        WrongKindCase{"stud-column", "",
+                      "The file you have selected does not contain a Kordavan Stud Column Record.  "},
+        WrongKindCase{"scl", CustomSclBytes().All(),
+                      "Kordavan23.LVL does not contain Kordavan SCL Values.  "},
+        WrongKindCase{"scl-custom", SclBytes().All(),
+                      "KordavanCustom.LVL does not contain Kordavan SCL Values.  "},
+        WrongKindCase{"defaults", "", "A new Default Values file has been created for you.  "}));
 
 TEST(ReadRecord, RefusesAFileThatCannotBeReadAndMakesNone)
 {
@@ -428,6 +508,8 @@ INSTANTIATE_TEST_SUITE_P(
     Fields, InvalidRecordFieldTest,
     testing::Values(
         InvalidFieldCase{"criteria", R"([])", "fields: an object is expected"},
+        InvalidFieldCase{"custom-post", R"({"Fc":32768})",
+                         "fields.Fc: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"criteria", R"({"Spam":1})", "fields.Spam: no such field"},
         InvalidFieldCase{"criteria", R"({"":1})", "fields.: no such field"},
         InvalidFieldCase{"criteria", R"({"DefCombo":1})", "fields.DefCombo: no such field"},
@@ -455,6 +537,10 @@ INSTANTIATE_TEST_SUITE_P(
                          "fields.RecordTag: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"data-record", R"({"Label51":"x"})", "fields.Label51: no such field"},
         InvalidFieldCase{"data-record", R"({"Label13":38.92})", "fields.Label13: a text is expected"},
+        InvalidFieldCase{"column", R"({"Label1":"x"})", "fields.Label1: no such field"},
+        InvalidFieldCase{"steel-column", R"({"SheathNote":"x"})", "fields.SheathNote: no such field"},
+        InvalidFieldCase{"stud-column", R"({"BreadthCombo":"2x"})",
+                         "fields.BreadthCombo: a whole number from -32768 to 32767 is expected"},
         InvalidFieldCase{"custom-values", R"({"SPG":true})", "fields.SPG: no such field"},
         InvalidFieldCase{"custom-values", R"({"Fb":"2400"})",
                          "fields.Fb: a number that a 32-bit float can hold is expected"},

@@ -294,6 +294,10 @@ TEST(ExitQuestion, TellsTheMinutesAndUnsavedEntries)
                 QuestionOf("Kordavan",
                            "You have used Kordavan for 0 minutes. Do you wish to exit?\n"
                            "The entries of this beam have not been saved."));
+    EXPECT_THAT(ExitQuestion(session, 0, "Nor has the post.").Text,
+                testing::EndsWith("The entries of this beam have not been saved.\nNor has the post."));
+    EXPECT_THAT(ExitQuestion({}, 0, "Nor has the post.").Text,
+                testing::EndsWith("Do you wish to exit?\nNor has the post."));
 }
 
 }  // namespace

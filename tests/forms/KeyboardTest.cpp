@@ -92,6 +92,63 @@ TEST_F(KeyboardTest, TabRunsDownTheCriteriaPage)
     EXPECT_EQ(FocusName(), "CmdOK");
 }
 
+TEST_F(KeyboardTest, TabRunsDownEachFaceOfTheColumns)
+{
+    walk.Go(Screen::Columns);
+    Click("ImportButton");
+    Box("ColumnProj").setFocus();
+    const std::vector<std::string> head{"ColumnProj", "columnID", "ColumnDescription"};
+    const auto after = [&head](std::vector<std::string> rest) {
+        rest.insert(rest.begin(), head.begin(), head.end());
+        return rest;
+    };
+    EXPECT_EQ(TabStops(),
+              after({"WoodButton",     "cReacText",       "ImportButton", "OptionR1",   "DblReaction",
+                     "CmdImportOK",    "cHTtext",         "cModeText",    "cD1text",    "ResetKf",
+                     "cD2text",        "cDurText",        "cWetButton",   "ColIncised", "cSolid4xbutton",
+                     "FramingButton",  "ColSpeciesCombo", "cFcText",      "cEtext",     "Loadpostbutton",
+                     "SavePostbutton", "ColumnSketch",    "CmdOK"}));
+    Key(Qt::Key_Escape);
+    Click("SteelButton");
+    Box("ColumnProj").setFocus();
+    EXPECT_EQ(TabStops(), after({"SteelButton", "cReacText", "ImportButton", "cHTtext", "cModeText",
+                                 "cD1text", "ColumnSketch", "CmdOK"}));
+    Click("StudButton");
+    columns.StudRun.emplace();
+    walk.Front()->Activate();
+    Box("ColumnProj").setFocus();
+    EXPECT_EQ(TabStops(), after({"StudButton",
+                                 "WindStudHt",
+                                 "WindStudSpacing",
+                                 "BreadthCombo",
+                                 "DepthCombo",
+                                 "WindStudCombo",
+                                 "WindStudFb",
+                                 "WindStudFc",
+                                 "WindStudE",
+                                 "AxialPLFtextbox",
+                                 "AxialPointTextbox",
+                                 "AxialDurTextbox",
+                                 "AxialDurCycle",
+                                 "DurWindTextbox",
+                                 "WindA",
+                                 "BegA",
+                                 "EndA",
+                                 "WindB",
+                                 "BegB",
+                                 "EndB",
+                                 "WindC",
+                                 "BegC",
+                                 "EndC",
+                                 "RepWindStud",
+                                 "RepIBCCheck",
+                                 "LoadStudbutton",
+                                 "SaveStudbutton",
+                                 "StudSketch",
+                                 "StudOKCalcbutton",
+                                 "StudReportbutton"}));
+}
+
 TEST_F(KeyboardTest, TabRunsDownTheLoadDiagram)
 {
     Form& diagram = walk.FormOf(Screen::LoadDiagram);
@@ -127,10 +184,24 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
         form.Activate();
         EXPECT_THAT(DoubledMnemonics(form), testing::IsEmpty());
     }
+    Form& columnForm = walk.FormOf(Screen::Columns);
+    columnForm.findChild<QAbstractButton*>(QStringLiteral("ImportButton"))->click();
+    for (const ColumnFace face : {ColumnFace::Wood, ColumnFace::Steel, ColumnFace::Studs}) {
+        columns.Face = face;
+        columnForm.Activate();
+        EXPECT_THAT(DoubledMnemonics(columnForm), testing::IsEmpty());
+    }
     for (const Screen screen :
-         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Print,
-          Screen::Settings, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram}) {
+         {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
+          Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
+          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
+    }
+    for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
+        walk.Go(record);
+        Click("Command1");
+        EXPECT_EQ(Text(Front().objectName()), "Form7");
+        EXPECT_THAT(DoubledMnemonics(Front()), testing::IsEmpty());
     }
 }
 
@@ -147,7 +218,9 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
     for (const Screen screen :
          {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
           Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram}) {
+          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns,
+          Screen::WoodColumns, Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord,
+          Screen::StudRecord}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {

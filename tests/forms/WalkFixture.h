@@ -95,7 +95,7 @@ private:
 /// clicks in whatever form is in front.
 class WalkFixture : public testing::Test {
 protected:
-    WalkFixture() : walk(session, user, desktop)
+    WalkFixture() : walk(session, columns, user, desktop)
     {
         walk.Start();
         Settle();
@@ -160,6 +160,7 @@ protected:
     static void Settle() { QApplication::processEvents(); }
 
     Session session;
+    ColumnSession columns;
     ScriptedUser user;
     ScriptedDesktop desktop;
     Walk walk;

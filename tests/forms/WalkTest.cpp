@@ -223,8 +223,12 @@ TEST_F(WalkTest, EndsOnlyOnYes)
     Front().close();
     EXPECT_FALSE(desktop.HasEnded);
     EXPECT_TRUE(Front().isVisible());
-    EXPECT_THAT(user.Told.back().Text,
-                HasSubstr("You have used Kordavan for 12 minutes. Do you wish to exit?"));
+    EXPECT_EQ(user.Told.back().Text, "You have used Kordavan for 12 minutes. Do you wish to exit?");
+    columns.Stud.WindStudHt = "9";
+    user.WillAnswer(false);
+    Choose("MnuExit");
+    EXPECT_THAT(user.Told.back().Text, HasSubstr("exit?\nThe entries of the stud have not been saved."));
+    EXPECT_FALSE(desktop.HasEnded);
     user.WillAnswer(true);
     Choose("MnuExit");
     EXPECT_TRUE(desktop.HasEnded);
@@ -234,9 +238,10 @@ TEST_F(WalkTest, EndsOnlyOnYes)
 TEST(ExitTest, EndsTheProgramAtOnce)
 {
     Session session;
+    ColumnSession columns;
     ScriptedUser user;
     QtDesktop desktop;
-    Walk walk(session, user, desktop);
+    Walk walk(session, columns, user, desktop);
     walk.Go(Screen::Criteria);
     walk.ShowBeside(Screen::Notes);
     user.WillAnswer(true);

@@ -6,9 +6,13 @@
 
 #include "core/NumberText.h"
 #include "design/CalculateAction.h"
+#include "records/ColumnRecordFile.h"
+#include "records/ColumnRecordLayout.h"
 #include "records/CriteriaFile.h"
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
+#include "records/CustomPostFile.h"
+#include "records/CustomPostLayout.h"
 #include "records/CustomValuesFile.h"
 #include "records/CustomValuesLayout.h"
 #include "records/DataRecordFile.h"
@@ -19,6 +23,8 @@
 #include "records/RecordBytes.h"
 #include "records/SclFile.h"
 #include "records/SclLayout.h"
+#include "records/StudRecordFile.h"
+#include "records/StudRecordLayout.h"
 
 namespace kordavan {
 namespace {
@@ -129,8 +135,9 @@ TEST(HostileFiles, AreRecordsOfSomeKind)
     HostileFiles files;
     std::size_t letters = 0;
     for (int round = 0; round < Rounds; ++round) {
-        for (const RecordLayout* layout : {&CriteriaLayout, &DataRecordLayout, &DefaultsLayout,
-                                           &CustomValuesLayout, &SclLayout, &CustomSclLayout}) {
+        for (const RecordLayout* layout :
+             {&CriteriaLayout, &DataRecordLayout, &DefaultsLayout, &CustomValuesLayout, &SclLayout,
+              &CustomSclLayout, &WoodColumnRecordLayout, &SteelColumnRecordLayout, &StudRecordLayout}) {
             const std::string bytes = files.AnyBytes(5000);
             const PackedRecord record(*layout, bytes);
             ASSERT_EQ(record.Bytes().size(), layout->Size);
@@ -249,6 +256,28 @@ TEST(HostileFiles, GiveCustomValuesThatCanBeSavedAgain)
     EXPECT_GT(loaded, Rounds / 4);
 }
 
+TEST(HostileFiles, GivePostValuesThatCanBeSavedAgain)
+{
+    HostileFiles files;
+    int taken = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        const PackedRecord record(CustomPostLayout, files.AnyFile(60, CustomPostTag));
+        RefusingUser user;
+        if (CheckCustomPost(record, user) == Outcome::Refused) {
+            continue;
+        }
+        ++taken;
+        ColumnEntry entry;
+        RestoreCustomPost(record, entry);
+        ExpectNumberOrNothing(entry.cFcText);
+        ExpectNumberOrNothing(entry.cEtext);
+        ColumnEntry again;
+        RestoreCustomPost(MakeCustomPostRecord(entry), again);
+        ASSERT_EQ(again, entry) << "round " << round;
+    }
+    EXPECT_GT(taken, Rounds / 4);
+}
+
 TEST(HostileFiles, GiveSclValuesThatBoxesCanShow)
 {
     const TemporaryFolder folder;
@@ -288,6 +317,54 @@ TEST(HostileFiles, GiveSheetsThatCanBeSavedAgain)
         DataSheet again = sheet;
         RestoreDataSheet(MakeDataRecord(sheet, {sheet[1], sheet[2], sheet[3]}), again);
         ASSERT_EQ(again, sheet) << "round " << round;
+    }
+    EXPECT_GT(shown, Rounds / 40);
+}
+
+TEST(HostileFiles, GiveColumnSheetsThatCanBeSavedAgain)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("odd.Col");
+    HostileFiles files;
+    int shown = 0;
+    for (int round = 0; round < Rounds / 10; ++round) {
+        PutNew(path, files.AnyFile(2000, files.Coin() ? WoodColumnTag : SteelColumnTag));
+        for (const ColumnRecordKind kind : {ColumnRecordKind::Wood, ColumnRecordKind::Steel}) {
+            ColumnSheet sheet;
+            RefusingUser user;
+            if (OpenColumnRecord(path, kind, sheet, user) == Outcome::Refused) {
+                ASSERT_EQ(sheet, ColumnSheet{});
+                continue;
+            }
+            ++shown;
+            ASSERT_EQ(ReadColumnSheet(MakeColumnRecord(sheet, kind, true), kind), sheet) << "round " << round;
+        }
+    }
+    EXPECT_GT(shown, Rounds / 40);
+}
+
+TEST(HostileFiles, GiveStudsThatListsCanShow)
+{
+    const TemporaryFolder folder;
+    const std::string path = folder.Path("odd.Wsc");
+    HostileFiles files;
+    ColumnSession before;
+    before.Stud.WindStudHt = "9";
+    int shown = 0;
+    for (int round = 0; round < Rounds / 10; ++round) {
+        PutNew(path, files.AnyFile(1200, StudRecordTag));
+        ColumnSession columns = before;
+        ReportNoteLines notes;
+        RefusingUser user;
+        if (OpenStudRecord(path, columns, notes, user) == Outcome::Refused) {
+            ASSERT_TRUE(columns.Stud == before.Stud);
+            continue;
+        }
+        ++shown;
+        ASSERT_LT(static_cast<std::size_t>(columns.Stud.BreadthCombo), StudBreadths.size());
+        ASSERT_LT(static_cast<std::size_t>(columns.Stud.DepthCombo), StudDepths.size());
+        const PackedRecord again = MakeStudRecord({columns.Identity, columns.Stud, notes});
+        ASSERT_TRUE(ReadStudRecord(again).Entry == columns.Stud) << "round " << round;
     }
     EXPECT_GT(shown, Rounds / 40);
 }
