@@ -216,7 +216,7 @@ Fault CheckLoadsAndValues(const StudEntry& entry)
 {
     for (const auto check : {CheckAxialLoads, CheckWindA, CheckOtherWinds, CheckBaseValuesGiven, CheckSpecies,
                              CheckBaseValueRanges}) {
-        if (const Fault fault = check(entry)) {
+        if (Fault fault = check(entry)) {
             return fault;
         }
     }
@@ -225,8 +225,10 @@ Fault CheckLoadsAndValues(const StudEntry& entry)
 
 Fault CheckPlacesAndSigns(const StudEntry& entry)
 {
-    const Fault fault = CheckPlaces(entry);
-    return fault ? fault : CheckSigns(entry);
+    if (Fault fault = CheckPlaces(entry)) {
+        return fault;
+    }
+    return CheckSigns(entry);
 }
 
 }  // namespace

@@ -24,10 +24,12 @@ SpeciesBox::SpeciesBox(const ControlText& text, int mostCharacters)
     completer()->setFilterMode(Qt::MatchContains);
     connect(this, &QComboBox::editTextChanged, this, [this](const QString& typed) {
         if (!isShowing) {
+            isTyped = true;
             Q_EMIT Typed(typed);
         }
     });
     connect(this, &QComboBox::activated, this, [this](int index) { Q_EMIT Picked(itemText(index)); });
+    connect(this, &SpeciesBox::Picked, this, [this] { isTyped = false; });
     connect(completer(), qOverload<const QString&>(&QCompleter::highlighted), this, &SpeciesBox::Picked);
 }
 
@@ -53,6 +55,14 @@ void SpeciesBox::Show(std::string_view text, const std::vector<std::string_view>
     isShowing = false;
 }
 
+/// A name typed to its end is as good as one chosen.
+void SpeciesBox::PickTypedName()
+{
+    if (isTyped && findText(currentText(), Qt::MatchFixedString | Qt::MatchCaseSensitive) >= 0) {
+        Q_EMIT Picked(currentText());
+    }
+}
+
 /// Arrows choose from the open list alone: a stray one would put another name in the place of the text. Enter
 /// means the form's command, not the name that the text begins like.
 void SpeciesBox::keyPressEvent(QKeyEvent* event)
@@ -66,12 +76,9 @@ void SpeciesBox::keyPressEvent(QKeyEvent* event)
             return;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            if (!matches.isVisible()) {
-                event->ignore();
-                return;
-            }
-            if (!matches.currentIndex().isValid()) {
+            if (!matches.isVisible() || !matches.currentIndex().isValid()) {
                 matches.hide();
+                PickTypedName();
                 event->ignore();
                 return;
             }

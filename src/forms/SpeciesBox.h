@@ -30,7 +30,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void PickTypedName();
+
     bool isShowing = false;
+    bool isTyped = false;  // since a name was shown or chosen
 };
 
 }  // namespace kordavan

@@ -118,6 +118,16 @@ TEST_F(ColumnFormTest, EnterInTheSpeciesKeepsValuesThatWereTyped)
     EXPECT_EQ(columns.Entry.cFcText, "1200");
 }
 
+TEST_F(ColumnFormTest, ANameTypedToItsEndBringsItsValues)
+{
+    EnterColumn();
+    TypeSpecies("Hem-Fir #1");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(FrontName(), "Form20");
+    EXPECT_EQ(columns.Entry.cFcText, "1300");
+    EXPECT_TRUE(user.Told.empty());
+}
+
 TEST_F(ColumnFormTest, SteelNeedsItsFourBoxesAlone)
 {
     Click("SteelButton");
