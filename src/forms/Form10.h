@@ -15,7 +15,7 @@ class NoteLine;
 class SteelChecks;
 
 /// The selection of a steel column: quick picks, and the report of one size.
-class Form10 : public ColumnSelectionForm {
+class Form10 final : public ColumnSelectionForm {
     Q_OBJECT
 
 public:

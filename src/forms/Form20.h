@@ -14,7 +14,7 @@ class FigureGrid;
 class NoteLine;
 
 /// The selection of a wood column: quick picks, and the test of one size.
-class Form20 : public ColumnSelectionForm {
+class Form20 final : public ColumnSelectionForm {
     Q_OBJECT
 
 public:

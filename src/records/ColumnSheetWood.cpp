@@ -56,7 +56,7 @@ std::string PlyNote(ColumnType type)
 std::string GoverningLine(const WoodColumnTest& test)
 {
     constexpr std::size_t lineLength = 85;
-    const std::string governing = GoverningPlaneText(test);
+    std::string governing = GoverningPlaneText(test);
     const std::string failure = ColumnFailureText(test);
     if (failure.empty()) {
         return governing;

@@ -303,7 +303,7 @@ TEST(StudColumn, IsRefusedWhereItsFiguresAreNoNumbers)
     tooHeavy.AxialPointTextbox = "1e39";
     StudEntry tooWindy = PlainStud();
     tooWindy.Wind[0] = "1e38";
-    for (StudEntry stud : {tooShort, tooHeavy, tooWindy}) {
+    for (const StudEntry& stud : {tooShort, tooHeavy, tooWindy}) {
         ColumnSession columns;
         columns.Stud = stud;
         ScriptedUser user;
