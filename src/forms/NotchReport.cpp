@@ -1,0 +1,7 @@
+#include "forms/NotchReport.h"
+
+namespace kordavan {
+
+NotchReport::NotchReport(Walk& walk) : Form(walk, "NotchReport") {}
+
+}  // namespace kordavan

@@ -1,0 +1,1 @@
+#include "notch/NotchPicture.h"
