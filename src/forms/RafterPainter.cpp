@@ -93,8 +93,9 @@ void RafterPainter::DrawSizes(const NotchPicture& picture)
     const QPointF gap = SizeGap * line * up;
     ink.DrawSize({outer - gap, footTop - gap}, SizeWords::Left, picture.DepthAtNotchText,
                  QStringLiteral("dn"));
-    ink.DrawSize({endBottom + gap, endTop + gap}, SizeWords::Right, picture.RafterDepthText,
-                 QStringLiteral("rd"));
+    const std::string both = picture.DepthText.empty() || picture.RafterDepthText.empty() ? "" : "\n";
+    ink.DrawSize({endBottom + gap, endTop + gap}, SizeWords::Right,
+                 picture.RafterDepthText + both + picture.DepthText, QStringLiteral("rd"));
     const double y = wall.bottom() + 0.5 * line;
     ink.DrawSize({wall.left(), y, wall.right(), y}, SizeWords::Below, picture.WallBreadthText,
                  QStringLiteral("t"));
