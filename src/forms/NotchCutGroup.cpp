@@ -142,6 +142,7 @@ void NotchCutGroup::AddYears()
     connect(years, &LineList::Chosen, this, &NotchCutGroup::ClickYear);
     auto* const lists = new QGridLayout;
     lists->setVerticalSpacing(Grid().verticalSpacing());
+    lists->setHorizontalSpacing(2 * Grid().horizontalSpacing());
     lists->addWidget(MakeCaption("D&uration of load", *durations), 0, 0);
     lists->addWidget(MakeCaption("NDS &year", *years), 0, 1);
     lists->addWidget(durations, 1, 0);

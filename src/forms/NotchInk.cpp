@@ -1,5 +1,8 @@
 #include "forms/NotchInk.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "forms/Kit.h"
 #include "forms/SketchParts.h"
 
@@ -54,12 +57,12 @@ void NotchInk::DrawShear(QPointF under, const std::string& text)
     const QPointF tail = under + QPointF(0, ArrowLength * line);
     DrawArrow(painter, tail, under, 0.8 * line, colors.Load);
     painter.setPen(colors.Text);
-    const QPointF beside = under + QPointF(0.8 * line, 0.4 * line);
-    painter.drawText(QRectF(beside, QSizeF(WordsWidth * line, line)), Qt::AlignLeft | Qt::AlignVCenter,
+    const QPointF beside = under + QPointF(-(WordsWidth + 0.8) * line, 0.4 * line);
+    painter.drawText(QRectF(beside, QSizeF(WordsWidth * line, line)), Qt::AlignRight | Qt::AlignVCenter,
                      Text(text));
 }
 
-void NotchInk::DrawMinimum(const QLineF& level, const std::string& text)
+void NotchInk::DrawMinimum(const QLineF& level, SizeWords side, const std::string& text)
 {
     if (text.empty()) {
         return;
@@ -70,7 +73,8 @@ void NotchInk::DrawMinimum(const QLineF& level, const std::string& text)
     painter.translate(level.p2());
     painter.rotate(-level.angle());
     painter.setPen(colors.Text);
-    const QRectF words(-WordsWidth * line, -1.15 * line, WordsWidth * line, line);
+    const double top = side == SizeWords::Above ? -1.15 * line : 0.15 * line;
+    const QRectF words(-WordsWidth * line, top, WordsWidth * line, line);
     painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter, Text(text));
     painter.restore();
 }
@@ -80,8 +84,8 @@ void NotchInk::DrawSize(const QLineF& size, SizeWords side, const std::string& t
     painter.setPen(QPen(colors.Line, 1));
     DrawDimension(painter, size.p1(), size.p2(), Tick * line);
     QRectF words(0, 0, WordsWidth * line, WordsHeight * line);
-    const double gap = 0.5 * line;
     const QPointF middle = size.center();
+    const double gap = (0.5 + std::min(std::abs(size.dx()), std::abs(size.dy())) / size.length()) * line;
     Qt::Alignment alignment = Qt::AlignCenter;
     switch (side) {
         case SizeWords::Left:

@@ -29,8 +29,8 @@ public:
     void DrawSupport(const QRectF& support);
     void DrawShear(QPointF under, const std::string& text);
 
-    /// The least depth that may remain: the words stand on the line, at its end.
-    void DrawMinimum(const QLineF& level, const std::string& text);
+    /// The least depth that may remain, with its words at the end of the line.
+    void DrawMinimum(const QLineF& level, SizeWords side, const std::string& text);
 
     /// A size with its words, or with its symbol where it is not known.
     void DrawSize(const QLineF& size, SizeWords side, const std::string& text, const QString& symbol);

@@ -14,7 +14,7 @@ namespace {
 constexpr double SideRoom = 6.5;
 constexpr double AboveRoom = 2.2;
 constexpr double BelowRoom = 3;
-constexpr double MostDepth = 14;
+constexpr double MostDepth = 18;
 constexpr double SupportHeight = 0.7;
 constexpr double BeyondSupport = 1.2;  // of a tension notch
 
@@ -119,7 +119,8 @@ void NotchPainter::DrawLevelSizes(const NotchPicture& picture, const QRectF& mem
     if (picture.Depth > 0) {
         const double least = member.height() * std::min(picture.MinimumDn / picture.Depth, 1.0);
         const double y = isBelow ? member.top() + least : member.bottom() - least;
-        ink.DrawMinimum({member.left() - 0.4 * line, y, member.right() - line, y}, picture.MinimumText);
+        ink.DrawMinimum({member.left() - 0.4 * line, y, member.right() - line, y},
+                        isBelow ? SizeWords::Above : SizeWords::Below, picture.MinimumText);
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "core/NumberText.h"
 #include "forms/Kit.h"
 #include "forms/NoteLine.h"
 
@@ -13,7 +14,9 @@ namespace {
 
 constexpr std::string_view LongestNote =
     "NDS 2018 has no rule here: nothing was computed. The result shown is of the run before, under NDS 2005. "
-    "The log is cut to its centre or below it: what really remains is 1000.00 in.², less than the area shown.";
+    "This log is cut below its centre. The area shown is more than the whole log has; what really remains is "
+    "1000.00 in². Such a notch is always below its minimum dn.";
+constexpr int CaptionDigits = 15;
 constexpr int FigureDigits = 10;
 
 enum Column { LeftCaption, LeftFigure, LeftUnit, Gap, RightCaption, RightFigure, RightUnit, LastColumn };
@@ -41,15 +44,15 @@ NotchResultGroup::NotchResultGroup()
 
 void NotchResultGroup::ShowTexts(const NotchTexts& texts)
 {
-    adjustedFv->setText(Text(texts.AdjFvLabel));
-    area->setText(Text(texts.AnLabel));
-    criticalCaption->setText(Text(texts.CritLabel));
-    critical->setText(Text(texts.CriticalfvLabel));
-    criticalUnit->setText(Text(texts.CritPsiLabel));
-    ratioCaption->setText(Text(texts.RatioTitle));
-    ratio->setText(Text(texts.RatioLabel));
-    minimumSpan->setText(Text(texts.MinSpanLabel));
-    taperAngle->setText(Text(texts.TaperAngleLabel));
+    critical.Caption->setText(Text(texts.CritLabel));
+    critical.Unit->setText(Text(texts.CritPsiLabel));
+    ratio.Caption->setText(Text(texts.RatioTitle));
+    ShowFigure(adjustedFv, texts.AdjFvLabel);
+    ShowFigure(area, texts.AnLabel);
+    ShowFigure(taperAngle, texts.TaperAngleLabel);
+    ShowFigure(critical, texts.CriticalfvLabel);
+    ShowFigure(ratio, texts.RatioLabel);
+    ShowFigure(minimumSpan, texts.MinSpanLabel);
     note->Tell(texts.NotchNote);
     Fade(*figures, texts.IsOutdated || texts.IsOfEarlierRun);
 }
@@ -59,29 +62,40 @@ QWidget* NotchResultGroup::MakeFigures()
     auto* const table = new QWidget;
     auto* const grid = new QGridLayout(table);
     grid->setContentsMargins(0, 0, 0, 0);
-    const auto add = [grid](int line, int column, QLabel* caption, QLabel* figure, QLabel* unit) {
-        grid->addWidget(caption, line, column);
-        grid->addWidget(figure, line, column + 1);
-        grid->addWidget(unit, line, column + 2);
-    };
-    adjustedFv = MakeFigure("AdjFvLabel");
-    area = MakeFigure("AnLabel");
-    taperAngle = MakeFigure("TaperAngleLabel");
-    criticalCaption = MakeNamedLabel("CritLabel");
-    critical = MakeFigure("CriticalfvLabel");
-    criticalUnit = MakeNamedLabel("CritPsiLabel");
-    ratioCaption = MakeNamedLabel("RatioTitle");
-    ratio = MakeFigure("RatioLabel");
-    minimumSpan = MakeFigure("MinSpanLabel");
-    add(0, LeftCaption, MakeLabel("Fv'"), adjustedFv, MakeLabel("psi"));
-    add(1, LeftCaption, MakeLabel("An"), area, MakeLabel("in²"));
-    add(2, LeftCaption, MakeLabel("Taper angle"), taperAngle, MakeLabel("degrees"));
-    add(0, RightCaption, criticalCaption, critical, criticalUnit);
-    add(1, RightCaption, ratioCaption, ratio, MakeLabel("%"));
-    add(2, RightCaption, MakeLabel("Least span"), minimumSpan, MakeLabel("ft"));
+    adjustedFv =
+        AddFigure(*grid, 0, LeftCaption, {MakeLabel("Fv'"), MakeFigure("AdjFvLabel"), MakeLabel("psi")});
+    area = AddFigure(*grid, 1, LeftCaption, {MakeLabel("An"), MakeFigure("AnLabel"), MakeLabel("in\u00B2")});
+    taperAngle = AddFigure(*grid, 2, LeftCaption,
+                           {MakeLabel("Taper angle"), MakeFigure("TaperAngleLabel"), MakeLabel("degrees")});
+    critical = AddFigure(
+        *grid, 0, RightCaption,
+        {MakeNamedLabel("CritLabel"), MakeFigure("CriticalfvLabel"), MakeNamedLabel("CritPsiLabel")});
+    ratio = AddFigure(*grid, 1, RightCaption,
+                      {MakeNamedLabel("RatioTitle"), MakeFigure("RatioLabel"), MakeLabel("%")});
+    minimumSpan = AddFigure(*grid, 2, RightCaption,
+                            {MakeLabel("Least span"), MakeFigure("MinSpanLabel"), MakeLabel("ft")});
     grid->setColumnMinimumWidth(Gap, DigitsWidth(*this, 3));
+    grid->setColumnMinimumWidth(RightCaption, DigitsWidth(*this, CaptionDigits));
+    grid->setColumnMinimumWidth(RightUnit, DigitsWidth(*this, 3));
     grid->setColumnStretch(LastColumn, 1);
     return table;
+}
+
+NotchResultGroup::Figure NotchResultGroup::AddFigure(QGridLayout& grid, int line, int column,
+                                                     const Figure& figure)
+{
+    KeepPlace(*figure.Unit);
+    grid.addWidget(figure.Caption, line, column);
+    grid.addWidget(figure.Panel, line, column + 1);
+    grid.addWidget(figure.Unit, line, column + 2);
+    return figure;
+}
+
+/// A unit stands with a number alone.
+void NotchResultGroup::ShowFigure(const Figure& figure, const std::string& text)
+{
+    figure.Panel->setText(Text(text));
+    figure.Unit->setVisible(IsNumeric(text));
 }
 
 }  // namespace kordavan

@@ -21,17 +21,22 @@ public:
     void ShowTexts(const NotchTexts& texts);
 
 private:
-    QWidget* MakeFigures();
+    struct Figure {
+        QLabel* Caption = nullptr;
+        QLabel* Panel = nullptr;
+        QLabel* Unit = nullptr;
+    };
 
-    QLabel* adjustedFv = nullptr;
-    QLabel* area = nullptr;
-    QLabel* criticalCaption = nullptr;
-    QLabel* critical = nullptr;
-    QLabel* criticalUnit = nullptr;
-    QLabel* ratioCaption = nullptr;
-    QLabel* ratio = nullptr;
-    QLabel* minimumSpan = nullptr;
-    QLabel* taperAngle = nullptr;
+    QWidget* MakeFigures();
+    static Figure AddFigure(QGridLayout& grid, int line, int column, const Figure& figure);
+    static void ShowFigure(const Figure& figure, const std::string& text);
+
+    Figure adjustedFv;
+    Figure area;
+    Figure taperAngle;
+    Figure critical;
+    Figure ratio;
+    Figure minimumSpan;
     QWidget* figures = nullptr;
     NoteLine* note = nullptr;
 };

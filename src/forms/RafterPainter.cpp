@@ -54,7 +54,7 @@ void RafterPainter::Draw(const NotchPicture& picture)
 /// Works the picture out in inches from the inner end of the seat, y downward, then brings it to the area.
 void RafterPainter::Place(const NotchPicture& picture)
 {
-    const double known = picture.RafterDepth > 0 ? picture.RafterDepth : picture.Depth;
+    const double known = std::max(picture.RafterDepth, picture.Depth);
     const double depth = known > 0 ? known : UsualDepth;
     const double remaining =
         picture.DepthAtNotch > 0 ? std::min(picture.DepthAtNotch, depth) : UsualRemainder * depth;
@@ -102,7 +102,8 @@ void RafterPainter::DrawSizes(const NotchPicture& picture)
     ink.DrawShear({wall.center().x(), y + 1.5 * line}, picture.ShearText);
     if (picture.MinimumDn > 0) {
         const QPointF below = -perInch * picture.MinimumDn * across;
-        ink.DrawMinimum({footTop + below - 0.5 * gap, endTop + below - gap}, picture.MinimumText);
+        ink.DrawMinimum({footTop + below - 0.5 * gap, endTop + below - gap}, SizeWords::Above,
+                        picture.MinimumText);
     }
 }
 
@@ -116,8 +117,9 @@ void RafterPainter::DrawAngle(const std::string& text)
     painter.drawArc(QRectF(inner - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius)), 0,
                     static_cast<int>(angle * sixteenths));
     painter.setPen(colors.Text);
-    painter.drawText(QRectF(inner.x() + 1.4 * radius, inner.y() - line / 2, 8 * line, line),
-                     Qt::AlignLeft | Qt::AlignVCenter, Text(text));
+    const double beside = std::max(inner.x() + 1.4 * radius, wall.right() + 0.4 * line);
+    painter.drawText(QRectF(beside, inner.y() - line / 2, 8 * line, line), Qt::AlignLeft | Qt::AlignVCenter,
+                     Text(text));
 }
 
 }  // namespace kordavan
