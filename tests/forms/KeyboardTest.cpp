@@ -194,7 +194,8 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
     for (const Screen screen :
          {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
           Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
-          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
+          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord,
+          Screen::NotchPage}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
     for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
@@ -220,7 +221,7 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
           Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
           Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns,
           Screen::WoodColumns, Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord,
-          Screen::StudRecord}) {
+          Screen::StudRecord, Screen::NotchPage}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
