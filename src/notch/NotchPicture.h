@@ -16,14 +16,16 @@ struct NotchPicture {
     double Breadth = 0;
     double DepthAtNotch = 0;  // no more than the depth
     double MinimumDn = 0;
-    double Setback = 0;
+    double Setback = 0;  // of a compression notch
     double RafterDepth = 0;
     double WallBreadth = 0;
-    double SeatAngle = 0;  // degrees
-    std::string DepthText;
+    double SeatAngle = 0;   // degrees
+    std::string DepthText;  // such as "d 9.25 in."; these are empty while there is nothing to read
     std::string DepthAtNotchText;
     std::string MinimumText;
     std::string SetbackText;
+    std::string RafterDepthText;
+    std::string WallBreadthText;
     std::string AngleText;
     std::string ShearText;
 };
@@ -32,8 +34,5 @@ NotchPicture ReadNotchPicture(const NotchEntry& entry, const NotchYears& years);
 
 /// The picture in words, for those who do not see it.
 std::string DescribeNotchPicture(const NotchPicture& picture);
-
-/// The angle of a roof in degrees: a pitch up to 24 is a rise in 12, more is the angle itself.
-double RoofAngle(double pitch);
 
 }  // namespace kordavan

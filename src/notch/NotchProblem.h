@@ -7,6 +7,8 @@
 
 namespace kordavan {
 
+inline constexpr double NotchPi = 3.14159265358979;
+
 /// In the order of their list.
 enum class NotchMember { SawnRectangular, SawnRound, Glulam };
 enum class NotchType { Tension, Compression, Tapered };
@@ -70,10 +72,20 @@ struct NotchProblem {
     std::int16_t NdsYear = 0;
 };
 
-/// Numbers and factors of the entries; a text that is none reads as 0. Nothing is checked.
+/// Numbers and factors of the entries; a text that is none reads as 0, a list position that does not exist as
+/// the first. Nothing is checked.
 NotchProblem ReadNotchProblem(const NotchEntry& entry, std::int16_t ndsYear);
+
+/// Whether the list of notches has the position of the entry.
+bool HasNotchType(const NotchEntry& entry);
+
+/// A text of blanks alone, or none at all.
+bool IsBlankText(std::string_view text);
 
 /// Wet use factor of the shear value by member and, for logs, diameter (NDS Supplement, tables 4A, 4D, 5A).
 double NotchWetFactor(NotchMember member, double depth, bool isWet);
+
+/// The angle of a roof in degrees: a pitch up to 24 is a rise in 12, more is the angle itself.
+double RoofAngle(double pitch);
 
 }  // namespace kordavan
