@@ -2,12 +2,18 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 #include "notch/NotchProblem.h"
 
 namespace kordavan {
 
 enum class NotchVerdict { NotComputed, Passes, RatioFails, DepthFails };
+
+namespace NotchStatus {
+inline constexpr std::string_view Ok = "OK";
+inline constexpr std::string_view Fail = "Fail";
+}  // namespace NotchStatus
 
 /// Which rule gives the least depth at the notch.
 enum class MinimumDnRule { ThreeQuarters, ThreeFifths, OneThird, NineTenths, LessThreeInches };

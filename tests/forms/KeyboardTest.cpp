@@ -218,7 +218,7 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
          {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
           Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
           Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord,
-          Screen::Notch}) {
+          Screen::Notch, Screen::NotchPage}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
     for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
@@ -239,12 +239,26 @@ QString SpokenName(const QWidget& control)
 
 TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
-    for (const Screen screen :
-         {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
-          Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns,
-          Screen::WoodColumns, Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord,
-          Screen::StudRecord, Screen::Notch}) {
+    for (const Screen screen : {Screen::Criteria,
+                                Screen::WoodSelection,
+                                Screen::SteelSelection,
+                                Screen::OwnSelection,
+                                Screen::TestReport,
+                                Screen::Record,
+                                Screen::Print,
+                                Screen::Settings,
+                                Screen::Notes,
+                                Screen::Calculator,
+                                Screen::OverhangDiagram,
+                                Screen::LoadDiagram,
+                                Screen::Columns,
+                                Screen::WoodColumns,
+                                Screen::SteelColumns,
+                                Screen::WoodColumnRecord,
+                                Screen::SteelColumnRecord,
+                                Screen::StudRecord,
+                                Screen::Notch,
+                                Screen::NotchPage}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
