@@ -8,7 +8,9 @@ namespace kordavan {
 
 void DrawDimension(QPainter& painter, QPointF from, QPointF to, double tick)
 {
-    const QPointF across = from.x() == to.x() ? QPointF(tick, 0) : QPointF(0, tick);
+    const double length = QLineF(from, to).length();
+    const QPointF along = length > 0 ? (to - from) / length : QPointF(0, 1);
+    const QPointF across = tick * QPointF(-along.y(), along.x());
     painter.drawLine(from, to);
     painter.drawLine(from - across, from + across);
     painter.drawLine(to - across, to + across);
