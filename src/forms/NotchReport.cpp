@@ -70,12 +70,13 @@ RecordPage NotchReport::HeadedPage(bool hasNotes)
     const NotchSession& notch = TheWalk().Notch();
     return LayOutNotchReport(*notch.Run, DatedNotchHeading(notch, TheWalk().Desktop().Today()),
                              TheSession().NoteClipboard,
-                             {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = false});
+                             {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = true});
 }
 
 PagePicture NotchReport::Picture()
 {
-    return {};
+    const NotchRun& run = *TheWalk().Notch().Run;
+    return ReadNotchPicture(run.Entry, {.NdsYear = run.Problem.NdsYear, .Line = {}});
 }
 
 std::string_view NotchReport::IdCaption() const

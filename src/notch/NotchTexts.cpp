@@ -223,14 +223,7 @@ std::vector<NotchReportLine> NotchResultLines(const NotchRun& run)
                                        {"Shear factor Ch", PlainNumber(static_cast<double>(problem.Ch)), ""},
                                        {"Duration of load Cd", FormatNumber(problem.Cd, FactorFormat), ""},
                                        {"Adjusted Fv'", Figure(result.AdjustedFv), "psi"},
-                                       {"Area at notch An", Figure(result.AreaAtNotch), "in\u00B2"},
-                                       {"Minimum dn", Figure(result.MinimumDn), "in."}};
-    if (result.IsComputed()) {
-        const ShearTexts& shear = ShearTextsOf(result);
-        lines.push_back(
-            {shear.CritLabel, Figure(CriticalFigure(result), shear.CritFormat), shear.CritPsiLabel});
-        lines.push_back({shear.RatioTitle, Figure(result.RatioPercent, RatioFormat), "%"});
-    }
+                                       {"Area at notch An", Figure(result.AreaAtNotch), "in\u00B2"}};
     if (result.MinSpan) {
         lines.push_back({"Minimum span", Figure(result.MinSpan), "ft"});
         lines.push_back({"Roof angle", Figure(result.TaperAngle), "degrees"});

@@ -42,7 +42,7 @@ struct NotchReportLine {
     std::string_view Unit;
 };
 
-/// The entries and results of the last run, for its page.
+/// The entries of the last run, and what its checks rest on, for its page.
 std::vector<NotchReportLine> NotchEntryLines(const NotchRun& run);
 std::vector<NotchReportLine> NotchResultLines(const NotchRun& run);
 

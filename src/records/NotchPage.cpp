@@ -117,7 +117,7 @@ public:
         WriteStatus();
         const double tables = writer.Top();
         WriteNotchChecks();
-        WriteLines("Results", NotchResultLines(run));
+        WriteLines("Values and factors", NotchResultLines(run));
         writer.Rule(ColumnTableWidth);
         WriteLines("Entries", NotchEntryLines(run));
         KeepDiagramRoom(writer, tables, options);
@@ -166,22 +166,28 @@ private:
                 Percent(*result.RatioPercent)};
     }
 
+    /// Without a rule there is nothing that the depth could pass or fail.
     PageCheck DepthCheck() const
     {
         constexpr double percent = 100;
         const double minimum = run.Result.MinimumDn;
         const double depth = run.Problem.DepthAtNotch;
-        return {"Depth at notch dn, in.", Figure(minimum, SizeFormat), Figure(depth, SizeFormat),
-                Status(depth < minimum), Percent(percent * minimum / depth)};
+        PageCheck check{"Depth at notch dn, in.", Figure(minimum, SizeFormat), Figure(depth, SizeFormat)};
+        if (run.Result.IsComputed()) {
+            check.Status = Status(depth < minimum);
+            check.Ratio = Percent(percent * minimum / depth);
+        }
+        return check;
     }
 
     void WriteNotchChecks()
     {
-        if (!run.Result.IsComputed()) {
-            return;
-        }
         writer.StartBlock();
-        WriteChecks(writer, {ShearCheck(), DepthCheck()}, options);
+        if (run.Result.IsComputed()) {
+            WriteChecks(writer, {ShearCheck(), DepthCheck()}, options);
+        } else {
+            WriteChecks(writer, {DepthCheck()}, options);
+        }
         writer.Rule(ColumnTableWidth);
     }
 

@@ -6,6 +6,7 @@
 
 #include "forms/WalkFixture.h"
 #include "notch/NotchCheck.h"
+#include "notch/NotchPicture.h"
 
 namespace kordavan {
 namespace {
@@ -62,6 +63,8 @@ TEST_F(NotchReportTest, ShowsTheRunAndLeadsBack)
     OpenReport();
     EXPECT_EQ(FrontName(), "NotchReport");
     EXPECT_EQ(Text(Front().windowTitle()), " Kordavan Notch Report");
+    EXPECT_EQ(Text(Find<QWidget>("RecordSheet").accessibleDescription()),
+              DescribeNotchPicture(ReadNotchPicture(notch.Entry, notch.Years)));
     const std::string page = CopiedPage();
     for (const std::string_view text : {"Barn", "B1", "loft beam", "Timber & Sons", "12 Mill Road", "JD",
                                         "3/07/26", "DF-L #2", "3,319", "OK  Fv ratio less than 100%"}) {
