@@ -89,14 +89,25 @@ void ReadFields(const JsonValue& json, const FieldPath& path, NotchSession& notc
 
 constexpr double None = std::numeric_limits<double>::quiet_NaN();
 
-void WriteVerdict(const NotchResult& result, AnswerWriter& answer)
+/// Which of the two figures the edition's rule gives, and how it compares.
+void WriteShear(const NotchResult& result, AnswerWriter& answer)
+{
+    answer.Field("CriticalFv", result.CriticalFv.value_or(None));
+    answer.Field("AllowableV", result.AllowableV.value_or(None));
+    if (result.IsComputed()) {
+        answer.Field("ResultIsV", result.ResultIsV);
+    } else {
+        answer.Field("ResultIsV", None);
+    }
+    answer.Field("RatioPercent", result.RatioPercent.value_or(None));
+}
+
+void WriteStatus(const NotchResult& result, AnswerWriter& answer)
 {
     const bool passes = result.Verdict == NotchVerdict::Passes;
     if (result.IsComputed()) {
-        answer.Field("ResultIsV", result.ResultIsV);
         answer.Field("Status", passes ? NotchStatus::Ok : NotchStatus::Fail);
     } else {
-        answer.Field("ResultIsV", None);
         answer.Field("Status", None);
     }
 }
@@ -113,12 +124,10 @@ void WriteResult(const NotchRun& run, AnswerWriter& answer)
     answer.Field("AdjustedFv", result.AdjustedFv);
     answer.Field("AreaAtNotch", result.AreaAtNotch);
     answer.Field("MinimumDn", result.MinimumDn);
-    answer.Field("CriticalFv", result.CriticalFv.value_or(None));
-    answer.Field("AllowableV", result.AllowableV.value_or(None));
-    answer.Field("RatioPercent", result.RatioPercent.value_or(None));
+    WriteShear(result, answer);
     answer.Field("MinSpan", result.MinSpan.value_or(None));
     answer.Field("TaperAngle", result.TaperAngle.value_or(None));
-    WriteVerdict(result, answer);
+    WriteStatus(result, answer);
     answer.EndObject();
 }
 
