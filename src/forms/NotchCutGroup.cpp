@@ -39,6 +39,7 @@ enum Column { CaptionColumn, BoxColumn, UnitColumn, HelpColumn };
 std::vector<std::string_view> DurationNames()
 {
     std::vector<std::string_view> names;
+    names.reserve(NotchDurations.size());
     for (const NotchDuration& duration : NotchDurations) {
         names.push_back(duration.Name);
     }
