@@ -59,9 +59,10 @@ struct Desk {
 
     Session session;
     ColumnSession columns;
+    NotchSession notch;
     SilentUser user;
     BareDesk desktop;
-    Walk walk{session, columns, user, desktop};
+    Walk walk{session, columns, notch, user, desktop};
 };
 
 void FirstForm(benchmark::State& state)

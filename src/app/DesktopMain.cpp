@@ -5,6 +5,7 @@
 #include "forms/DialogUser.h"
 #include "forms/QtDesktop.h"
 #include "forms/Walk.h"
+#include "notch/NotchSession.h"
 
 int main(int argc, char* argv[])
 {
@@ -15,9 +16,10 @@ int main(int argc, char* argv[])
 
     kordavan::Session session;
     kordavan::ColumnSession columns;
+    kordavan::NotchSession notch;
     kordavan::DialogUser user;
     kordavan::QtDesktop desktop;
-    kordavan::Walk walk(session, columns, user, desktop);
+    kordavan::Walk walk(session, columns, notch, user, desktop);
     walk.Start();
     return QApplication::exec();
 }

@@ -10,6 +10,7 @@
 #include "batch/BeamAnswer.h"
 #include "batch/BeamRun.h"
 #include "batch/LocalDay.h"
+#include "batch/NotchTask.h"
 #include "batch/RecordAnswer.h"
 #include "batch/RecordTasks.h"
 #include "batch/RequestLine.h"
@@ -105,6 +106,7 @@ constexpr std::array Tasks{
     TaskRow{"beam", AnswerBeam},
     TaskRow{"column", AnswerColumn},
     TaskRow{"hip-valley", AnswerHipValley},
+    TaskRow{"notch", AnswerNotch},
     TaskRow{"read-record", AnswerReadRecord},
     TaskRow{"select", AnswerSelection},
     TaskRow{"steel-column", AnswerSteelColumn},

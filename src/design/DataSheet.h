@@ -37,6 +37,8 @@ struct RecordHeading {
     std::string Heading2{};
     std::string Date{};
     std::string Initials{};
+
+    bool operator==(const RecordHeading&) const = default;
 };
 
 /// The Data Record on the screen.

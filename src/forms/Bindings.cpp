@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 
 #include "forms/Kit.h"
+#include "forms/LineList.h"
 #include "forms/NumericBox.h"
 
 namespace kordavan {
@@ -58,6 +59,17 @@ void Bindings::Bind(QComboBox& list, int& position)
         Q_EMIT Edited(list.objectName());
     });
     shows.emplace_back([&list, &position] { list.setCurrentIndex(position); });
+}
+
+void Bindings::Bind(LineList& list, int& position)
+{
+    connect(&list, &LineList::Chosen, this, [this, &list, &position](int line) {
+        if (position != line) {
+            position = line;
+            Q_EMIT Edited(list.objectName());
+        }
+    });
+    shows.emplace_back([&list, &position] { list.setCurrentRow(position); });
 }
 
 void Bindings::Show() const

@@ -11,6 +11,7 @@ class QLineEdit;
 
 namespace kordavan {
 
+class LineList;
 class NumericBox;
 
 /// Ties boxes to the texts and flags of the model that they show. What the person enters is in the model at
@@ -28,6 +29,7 @@ public:
 
     /// A list whose position the model holds.
     void Bind(QComboBox& list, int& position);
+    void Bind(LineList& list, int& position);
 
     /// An option that stands for one value of a choice.
     template <typename Choice>

@@ -1,7 +1,6 @@
 #include "forms/ColumnSelectionForm.h"
 
 #include <QEvent>
-#include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -18,8 +17,6 @@
 namespace kordavan {
 
 namespace {
-
-constexpr double FadedOpacity = 0.45;
 
 constexpr int WidestBar = 50;
 
@@ -76,8 +73,9 @@ void ColumnSelectionForm::BuildReport(QWidget* report, std::string_view whatToDo
     pages->addWidget(page);
     Body().addWidget(MakeRule());
     Body().addWidget(pages, 1);
+    figures = report;
     LetFade(*memberLine);
-    LetFade(*report);
+    LetFade(*figures);
 }
 
 void ColumnSelectionForm::BuildFoot(std::string_view select, QPushButton* test)
@@ -149,7 +147,9 @@ void ColumnSelectionForm::ShowReport(const std::string& member, const ColumnVerd
     ShowVerdict(verdict);
     selectButton->setEnabled(true);
     outdatedMark->setVisible(isOutdated);
-    FadeReport(isOutdated);
+    for (QWidget* const part : std::initializer_list<QWidget*>{memberLine, figures, verdictLine}) {
+        Fade(*part, isOutdated);
+    }
 }
 
 void ColumnSelectionForm::ShowVerdict(const ColumnVerdict& verdict)
@@ -160,22 +160,6 @@ void ColumnSelectionForm::ShowVerdict(const ColumnVerdict& verdict)
     PaintStatus(*status, !verdict.Passes);
     ratioText->setText(Text(verdict.RatioText));
     ratioBar->Show(verdict.Ratio, !verdict.Passes);
-}
-
-void ColumnSelectionForm::LetFade(QWidget& part)
-{
-    auto* const effect = new QGraphicsOpacityEffect(&part);
-    effect->setOpacity(FadedOpacity);
-    effect->setEnabled(false);
-    part.setGraphicsEffect(effect);
-    fading.push_back(&part);
-}
-
-void ColumnSelectionForm::FadeReport(bool isFaded)
-{
-    for (QWidget* const part : fading) {
-        part->graphicsEffect()->setEnabled(isFaded);
-    }
 }
 
 void ColumnSelectionForm::OnSelect()

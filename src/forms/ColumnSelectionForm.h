@@ -64,8 +64,6 @@ protected:
 
 private:
     void ShowVerdict(const ColumnVerdict& verdict);
-    void LetFade(QWidget& part);
-    void FadeReport(bool isFaded);
     void OnSelect();
 
     ColumnRecordKind kind;
@@ -74,7 +72,7 @@ private:
     QLabel* memberLine = nullptr;
     QWidget* outdatedMark = nullptr;
     QStackedWidget* pages = nullptr;
-    std::vector<QWidget*> fading;
+    QWidget* figures = nullptr;
     QWidget* verdictLine = nullptr;
     StatusSign* sign = nullptr;
     QLabel* status = nullptr;

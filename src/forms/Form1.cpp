@@ -222,6 +222,9 @@ void Form1::MakeMenus()
     AddCommand(
         goTo, {"MnuColumns", "Columns of wood and steel, and wall studs under wind"}, "&Columns",
         [this] { TheWalk().Go(Screen::Columns); }, QKeySequence(Qt::Key_F7));
+    AddCommand(
+        goTo, {"MnuNotch", "The shear at the notched end of a wood member"}, "&Notch Check",
+        [this] { TheWalk().Go(Screen::Notch); }, QKeySequence(Qt::Key_F6));
     AddToolsMenu();
     AddHelpMenu(Page);
 }

@@ -4,6 +4,7 @@
 
 #include "records/ColumnDesk.h"
 #include "records/ColumnRecordPage.h"
+#include "records/SheetHeading.h"
 #include "records/StudRecordFile.h"
 
 namespace kordavan {
@@ -74,9 +75,7 @@ RecordPage Form28::Page()
 RecordPage Form28::HeadedPage(bool hasNotes)
 {
     RecordHeading heading = Heading();
-    if (heading.Date.empty()) {
-        heading.Date = ShortDate(TheWalk().Desktop().Today());
-    }
+    DateHeading(heading, TheWalk().Desktop().Today());
     return LayOutStudRecord(*Columns().StudRun, heading, TheSession().NoteClipboard,
                             {.HighDpi = TheSession().HighDPI, .HasNotes = hasNotes, .HasDiagram = true});
 }

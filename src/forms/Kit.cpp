@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QFrame>
+#include <QGraphicsOpacityEffect>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -80,6 +81,20 @@ void KeepPlace(QWidget& control)
     QSizePolicy policy = control.sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     control.setSizePolicy(policy);
+}
+
+void LetFade(QWidget& control)
+{
+    constexpr double fadedOpacity = 0.45;
+    auto* const effect = new QGraphicsOpacityEffect(&control);
+    effect->setOpacity(fadedOpacity);
+    effect->setEnabled(false);
+    control.setGraphicsEffect(effect);
+}
+
+void Fade(QWidget& control, bool isFaded)
+{
+    control.graphicsEffect()->setEnabled(isFaded);
 }
 
 QLabel* MakeLabel(std::string_view caption)

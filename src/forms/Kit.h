@@ -46,6 +46,12 @@ void IgnoreStrayWheel(QWidget& list);
 /// The control keeps its place while it is hidden.
 void KeepPlace(QWidget& control);
 
+/// Makes Fade work on a control.
+void LetFade(QWidget& control);
+
+/// Shows a control pale, for what no longer counts, or plain.
+void Fade(QWidget& control, bool isFaded);
+
 QLabel* MakeLabel(std::string_view caption);
 QLabel* MakeNamedLabel(std::string_view name, std::string_view caption = {});
 

@@ -40,7 +40,8 @@ QRectF InUnits(const PageRect& rect)
 
 bool IsFailure(const PageText& text)
 {
-    return text.Style == PageStyle::Status && text.Text.find("Fail") != std::string::npos;
+    return text.Style == PageStyle::Status &&
+           (text.Text.find("Fail") != std::string::npos || text.Text.find("FAIL") != std::string::npos);
 }
 
 QRectF SignArea(const QRectF& status)

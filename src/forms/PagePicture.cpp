@@ -2,6 +2,7 @@
 
 #include "columns/StudPicture.h"
 #include "forms/BeamPainter.h"
+#include "forms/NotchPainter.h"
 #include "forms/StudOnPage.h"
 
 namespace kordavan {
@@ -15,6 +16,9 @@ void PaintPagePicture(QPainter& painter, const QRectF& area, const QPalette& pal
         BeamPainter(painter, area, colors, LoadCaptions::Letters).Draw(*beam);
     } else if (const auto* const stud = std::get_if<StudTest>(&picture)) {
         PaintStudOnPage(painter, area, palette, *stud);
+    } else if (const auto* const notch = std::get_if<NotchPicture>(&picture)) {
+        const SketchColors colors(palette);
+        NotchPainter(painter, area, colors).Draw(*notch);
     }
 }
 
@@ -23,8 +27,11 @@ std::string DescribePagePicture(const PagePicture& picture)
     if (const auto* const beam = std::get_if<LoadPicture>(&picture)) {
         return DescribePicture(*beam);
     }
-    const auto* const stud = std::get_if<StudTest>(&picture);
-    return stud == nullptr ? std::string() : DescribeStudMoment(*stud);
+    if (const auto* const stud = std::get_if<StudTest>(&picture)) {
+        return DescribeStudMoment(*stud);
+    }
+    const auto* const notch = std::get_if<NotchPicture>(&picture);
+    return notch == nullptr ? std::string() : DescribeNotchPicture(*notch);
 }
 
 }  // namespace kordavan

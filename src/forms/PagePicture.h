@@ -8,12 +8,13 @@
 
 #include "columns/StudResult.h"
 #include "design/LoadPicture.h"
+#include "notch/NotchPicture.h"
 
 namespace kordavan {
 
-/// What is drawn into the room that a page has for a diagram: nothing, the loads of a beam, or the wind on a
-/// stud and its moment.
-using PagePicture = std::variant<std::monostate, LoadPicture, StudTest>;
+/// What is drawn into the room that a page has for a diagram: nothing, the loads of a beam, the wind on a
+/// stud and its moment, or a notched end.
+using PagePicture = std::variant<std::monostate, LoadPicture, StudTest, NotchPicture>;
 
 /// Draws a picture into a rectangle, in the painter's font.
 void PaintPagePicture(QPainter& painter, const QRectF& area, const QPalette& palette,

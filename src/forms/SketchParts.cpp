@@ -8,7 +8,9 @@ namespace kordavan {
 
 void DrawDimension(QPainter& painter, QPointF from, QPointF to, double tick)
 {
-    const QPointF across = from.x() == to.x() ? QPointF(tick, 0) : QPointF(0, tick);
+    const double length = QLineF(from, to).length();
+    const QPointF along = length > 0 ? (to - from) / length : QPointF(0, 1);
+    const QPointF across = tick * QPointF(-along.y(), along.x());
     painter.drawLine(from, to);
     painter.drawLine(from - across, from + across);
     painter.drawLine(to - across, to + across);
@@ -43,8 +45,9 @@ void DrawHold(QPainter& painter, const QRectF& strip, HeldSide side, const QColo
     painter.drawLine(isUpright ? strip.topRight() : strip.topLeft(),
                      isUpright ? strip.bottomRight() : strip.topRight());
     painter.setClipRect(strip, Qt::IntersectClip);
-    const double reach = strip.width() + strip.height();
-    for (double along = pitch; along < reach; along += pitch) {
+    const int lineCount = static_cast<int>((strip.width() + strip.height()) / pitch);
+    for (int line = 1; line <= lineCount; ++line) {
+        const double along = line * pitch;
         painter.drawLine(strip.topLeft() + QPointF(along, 0), strip.topLeft() + QPointF(0, along));
     }
     painter.restore();

@@ -8,7 +8,7 @@ class QPainter;
 
 namespace kordavan {
 
-/// A line between two ticks, upright or level, in the pen of the painter.
+/// A line between two ticks across it, in the pen of the painter.
 void DrawDimension(QPainter& painter, QPointF from, QPointF to, double tick);
 
 /// An arrow whose point is at its end.

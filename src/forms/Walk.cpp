@@ -22,6 +22,8 @@
 #include "forms/Form5.h"
 #include "forms/Form6.h"
 #include "forms/Form7.h"
+#include "forms/FormOstrimane.h"
+#include "forms/NotchReport.h"
 #include "forms/NumericBox.h"
 #include "records/ColumnDesk.h"
 #include "records/DefaultsFile.h"
@@ -43,8 +45,9 @@ void FrontUser::Tell(const Message& message)
     }
 }
 
-Walk::Walk(Session& currentSession, ColumnSession& currentColumns, UserPort& user, DesktopPort& desk)
-    : session(currentSession), columns(currentColumns), desktop(desk), frontUser(user)
+Walk::Walk(Session& currentSession, ColumnSession& currentColumns, NotchSession& currentNotch, UserPort& user,
+           DesktopPort& desk)
+    : session(currentSession), columns(currentColumns), notch(currentNotch), desktop(desk), frontUser(user)
 {
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*old*/, QWidget* now) { RememberBox(now); });
@@ -111,6 +114,10 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<Form23>(*this);
         case Screen::StudRecord:
             return std::make_unique<Form28>(*this);
+        case Screen::Notch:
+            return std::make_unique<FormOstrimane>(*this);
+        case Screen::NotchPage:
+            return std::make_unique<NotchReport>(*this);
     }
     return nullptr;
 }

@@ -10,6 +10,7 @@
 #include "core/Message.h"
 #include "design/Session.h"
 #include "forms/DesktopPort.h"
+#include "notch/NotchSession.h"
 
 class QWidget;
 
@@ -38,7 +39,9 @@ enum class Screen {
     SteelColumns,
     WoodColumnRecord,
     SteelColumnRecord,
-    StudRecord
+    StudRecord,
+    Notch,
+    NotchPage
 };
 
 /// The person as the forms speak to them: what is told goes on to the desk, and afterwards the box that it
@@ -63,11 +66,12 @@ class Walk : public QObject {
     Q_OBJECT
 
 public:
-    Walk(Session& session, ColumnSession& columns, UserPort& user, DesktopPort& desktop);
+    Walk(Session& session, ColumnSession& columns, NotchSession& notch, UserPort& user, DesktopPort& desktop);
     ~Walk() override;
 
     Session& CurrentSession() { return session; }
     ColumnSession& Columns() { return columns; }
+    NotchSession& Notch() { return notch; }
     UserPort& User() { return frontUser; }
     DesktopPort& Desktop() { return desktop; }
 
@@ -121,6 +125,7 @@ private:
 
     Session& session;
     ColumnSession& columns;
+    NotchSession& notch;
     DesktopPort& desktop;
     FrontUser frontUser;
     std::map<Screen, std::unique_ptr<Form>> forms;

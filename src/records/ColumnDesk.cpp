@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "records/ColumnSheetFill.h"
+#include "records/SheetHeading.h"
 
 namespace kordavan {
 
@@ -35,13 +36,6 @@ RecordHeading HeadingOfColumn(const ColumnSession& columns, const Session& beam,
             .Heading2 = beam.Header.Heading2,
             .Date = ShortDate(today),
             .Initials = beam.Header.Initialbox};
-}
-
-void DateHeading(RecordHeading& heading, CalendarDay today)
-{
-    if (heading.Date.empty()) {
-        heading.Date = ShortDate(today);
-    }
 }
 
 Outcome RefuseUntested(ColumnRecordKind kind, UserPort& user)

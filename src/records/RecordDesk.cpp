@@ -132,9 +132,7 @@ void PrepareHeading(Session& session, CalendarDay today)
         record.Heading =
             record.CanBeRefilled ? HeadingOfProblem(session, today) : HeadingOnSheet(record.Sheet);
     }
-    if (record.Heading.Date.empty()) {
-        record.Heading.Date = ShortDate(today);
-    }
+    DateHeading(record.Heading, today);
 }
 
 void ClearHeading(Session& session)
@@ -146,18 +144,14 @@ void TakeHeading(Session& session, CalendarDay today)
 {
     RecordOnShow& record = session.Record;
     record.Sheet = HeadedSheet(session, today);
-    if (record.Heading.Date.empty()) {
-        record.Heading.Date = ShortDate(today);
-    }
+    DateHeading(record.Heading, today);
     record.HeaderChanged = true;
 }
 
 DataSheet HeadedSheet(const Session& session, CalendarDay today)
 {
     RecordHeading heading = session.Record.Heading;
-    if (heading.Date.empty()) {
-        heading.Date = ShortDate(today);
-    }
+    DateHeading(heading, today);
     DataSheet sheet = session.Record.Sheet;
     HeadSheet(heading, sheet);
     sheet.ReportNotes = session.NoteClipboard;

@@ -27,4 +27,11 @@ RecordHeading ReadHeadCells(std::span<const HeadCell> head, std::span<const std:
     return heading;
 }
 
+void DateHeading(RecordHeading& heading, CalendarDay today)
+{
+    if (heading.Date.empty()) {
+        heading.Date = ShortDate(today);
+    }
+}
+
 }  // namespace kordavan

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "design/DataSheet.h"
+#include "design/SelectionRecord.h"
 
 namespace kordavan {
 
@@ -25,5 +26,8 @@ void WriteHeadCells(std::span<const HeadCell> head, const RecordHeading& heading
 
 /// What a sheet is headed with.
 RecordHeading ReadHeadCells(std::span<const HeadCell> head, std::span<const std::string> sheet);
+
+/// Dates a heading that has no date.
+void DateHeading(RecordHeading& heading, CalendarDay today);
 
 }  // namespace kordavan

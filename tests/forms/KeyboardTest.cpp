@@ -149,6 +149,29 @@ TEST_F(KeyboardTest, TabRunsDownEachFaceOfTheColumns)
                                  "StudReportbutton"}));
 }
 
+TEST_F(KeyboardTest, TabRunsDownTheNotchInTheOrderOfItsChecks)
+{
+    notch.Run.emplace();
+    walk.Go(Screen::Notch);
+    const std::vector<std::string> member{"MaxVtextbox",  "MemberListBox", "breadthtextbox", "depthtextbox",
+                                          "SpeciesCombo", "Fvtextbox",     "dnTextbox",      "NotchListBox"};
+    const std::vector<std::string> rest{"WetUseCheckbox", "NoSplitCheckbox", "DurListbox",    "NDSyearList",
+                                        "NotchSketch",    "OKcalcCmd",       "CmdNotchReport"};
+    const std::vector<std::pair<NotchType, std::vector<std::string>>> own{
+        {NotchType::Tension, {}},
+        {NotchType::Compression, {"eTextbox"}},
+        {NotchType::Tapered, {"rdTextbox", "rpTextbox", "tTextbox"}}};
+    for (const auto& [type, boxes] : own) {
+        notch.Entry.NotchListBox = static_cast<int>(type);
+        Front().Activate();
+        Box("MaxVtextbox").setFocus();
+        std::vector<std::string> expected = member;
+        expected.insert(expected.end(), boxes.begin(), boxes.end());
+        expected.insert(expected.end(), rest.begin(), rest.end());
+        EXPECT_EQ(TabStops(), expected);
+    }
+}
+
 TEST_F(KeyboardTest, TabRunsDownTheLoadDiagram)
 {
     Form& diagram = walk.FormOf(Screen::LoadDiagram);
@@ -194,7 +217,8 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
     for (const Screen screen :
          {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
           Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
-          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord}) {
+          Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord,
+          Screen::Notch, Screen::NotchPage}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
     for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
@@ -215,12 +239,26 @@ QString SpokenName(const QWidget& control)
 
 TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
 {
-    for (const Screen screen :
-         {Screen::Criteria, Screen::WoodSelection, Screen::SteelSelection, Screen::OwnSelection,
-          Screen::TestReport, Screen::Record, Screen::Print, Screen::Settings, Screen::Notes,
-          Screen::Calculator, Screen::OverhangDiagram, Screen::LoadDiagram, Screen::Columns,
-          Screen::WoodColumns, Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord,
-          Screen::StudRecord}) {
+    for (const Screen screen : {Screen::Criteria,
+                                Screen::WoodSelection,
+                                Screen::SteelSelection,
+                                Screen::OwnSelection,
+                                Screen::TestReport,
+                                Screen::Record,
+                                Screen::Print,
+                                Screen::Settings,
+                                Screen::Notes,
+                                Screen::Calculator,
+                                Screen::OverhangDiagram,
+                                Screen::LoadDiagram,
+                                Screen::Columns,
+                                Screen::WoodColumns,
+                                Screen::SteelColumns,
+                                Screen::WoodColumnRecord,
+                                Screen::SteelColumnRecord,
+                                Screen::StudRecord,
+                                Screen::Notch,
+                                Screen::NotchPage}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {

@@ -95,7 +95,7 @@ private:
 /// clicks in whatever form is in front.
 class WalkFixture : public testing::Test {
 protected:
-    WalkFixture() : walk(session, columns, user, desktop)
+    WalkFixture() : walk(session, columns, notch, user, desktop)
     {
         walk.Start();
         Settle();
@@ -161,6 +161,7 @@ protected:
 
     Session session;
     ColumnSession columns;
+    NotchSession notch;
     ScriptedUser user;
     ScriptedDesktop desktop;
     Walk walk;

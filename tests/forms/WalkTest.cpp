@@ -239,9 +239,10 @@ TEST(ExitTest, EndsTheProgramAtOnce)
 {
     Session session;
     ColumnSession columns;
+    NotchSession notch;
     ScriptedUser user;
     QtDesktop desktop;
-    Walk walk(session, columns, user, desktop);
+    Walk walk(session, columns, notch, user, desktop);
     walk.Go(Screen::Criteria);
     walk.ShowBeside(Screen::Notes);
     user.WillAnswer(true);

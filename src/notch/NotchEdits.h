@@ -1,0 +1,14 @@
+#pragma once
+
+#include "notch/NotchSession.h"
+
+namespace kordavan {
+
+/// The edition of the year that is in force for a notch.
+Edition EditionOfNotch(const NotchYears& years);
+
+/// What an edit brings with it: a base Fv that the tables gave for its name becomes the one they give now, by
+/// member, size and year; and a notch that has become tapered has no setback.
+void FollowNotchEdit(NotchSession& notch, const NotchEntry& before, const NotchYears& yearsBefore);
+
+}  // namespace kordavan
