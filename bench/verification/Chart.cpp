@@ -9,7 +9,6 @@ namespace kordavan::verification {
 namespace {
 
 constexpr double Width = 960;
-constexpr double Height = 1010;
 
 /// A rectangle of the drawing in which values are plotted along straight axes.
 struct Plot {
@@ -29,7 +28,7 @@ struct Plot {
 /// Where the letters of a text stand to its place.
 enum class Anchor { Start, Middle, End };
 
-std::string At(double x, double y, const std::string& nameX = "x", const std::string& nameY = "y")
+std::string Place(double x, double y, const std::string& nameX = "x", const std::string& nameY = "y")
 {
     return nameX + "=\"" + Fixed(x, 1) + "\" " + nameY + "=\"" + Fixed(y, 1) + "\"";
 }
@@ -37,18 +36,19 @@ std::string At(double x, double y, const std::string& nameX = "x", const std::st
 std::string TextAt(double x, double y, Anchor anchor, const std::string& text, const std::string& style = "")
 {
     static constexpr std::array Names{"start", "middle", "end"};
-    return "<text " + At(x, y) + " text-anchor=\"" + Names[static_cast<std::size_t>(anchor)] + "\"" + style +
-           ">" + text + "</text>\n";
+    return "<text " + Place(x, y) + " text-anchor=\"" + Names[static_cast<std::size_t>(anchor)] + "\"" +
+           style + ">" + text + "</text>\n";
 }
 
 std::string LineFrom(double x1, double y1, double x2, double y2, const std::string& style)
 {
-    return "<line " + At(x1, y1, "x1", "y1") + " " + At(x2, y2, "x2", "y2") + " " + style + "/>\n";
+    return "<line " + Place(x1, y1, "x1", "y1") + " " + Place(x2, y2, "x2", "y2") + " " + style + "/>\n";
 }
 
-std::string Box(double x, double y, double width, double height, const std::string& fill)
+std::string Rectangle(double x, double y, double width, double height, const std::string& fill)
 {
-    return "<rect " + At(x, y) + " " + At(width, height, "width", "height") + " fill=\"" + fill + "\"/>\n";
+    return "<rect " + Place(x, y) + " " + Place(width, height, "width", "height") + " fill=\"" + fill +
+           "\"/>\n";
 }
 
 constexpr std::string_view GridStyle = "stroke=\"#d9d9d9\"";
@@ -88,7 +88,7 @@ constexpr std::array Curves{CurveStyle{"#1f5fa8", "", "one point load at a"},
                             CurveStyle{"#2a7f3f", "3 3", "partial load of length a from a support"},
                             CurveStyle{"#7a3b9c", "12 3 3 3", "partial load of length a about midspan"}};
 
-std::string CurveOf(const Plot& plot, const SweepFamily& family, const CurveStyle& style)
+std::string PolylineOf(const Plot& plot, const SweepFamily& family, const CurveStyle& style)
 {
     std::string svg = "<polyline fill=\"none\" stroke-width=\"2.5\" stroke=\"" + std::string(style.Colour) +
                       "\" stroke-dasharray=\"" + std::string(style.Dash) + "\" points=\"";
@@ -114,12 +114,12 @@ std::string DrawCurves(const std::vector<SweepFamily>& families)
                              "Simple span: deflection by the equivalent uniform load", std::string(Bold));
     svg += TextAt(plot.Left, 52, Anchor::Start,
                   "difference from beam theory, %; below 0 Kordavan is on the unsafe side");
-    svg +=
-        Box(plot.Left, plot.Y(0), plot.Right - plot.Left, plot.Bottom - plot.Y(0), std::string(UnsafeFill));
+    svg += Rectangle(plot.Left, plot.Y(0), plot.Right - plot.Left, plot.Bottom - plot.Y(0),
+                     std::string(UnsafeFill));
     svg += HorizontalGrid(plot, 5) + VerticalGrid(plot, 0.1, 1);
     svg += LineFrom(plot.Left, plot.Y(0), plot.Right, plot.Y(0), std::string(ZeroStyle));
     for (std::size_t k = 0; k < Curves.size(); ++k) {
-        svg += CurveOf(plot, families[k], Curves[k]);
+        svg += PolylineOf(plot, families[k], Curves[k]);
         svg += LegendLine(plot.Left + 520, plot.Top + 24 + 22 * static_cast<double>(k), Curves[k]);
     }
     return svg + TextAt((plot.Left + plot.Right) / 2, plot.Bottom + 40, Anchor::Middle,
@@ -140,6 +140,12 @@ std::vector<const SweepFamily*> DeflectionFamilies(const std::vector<SweepGroup>
 }
 
 constexpr double BarPitch = 20;
+constexpr double RangesTop = 520;
+
+double RangesBottom(std::size_t families)
+{
+    return RangesTop + BarPitch * static_cast<double>(families);
+}
 
 std::string RangeBar(const Plot& plot, const SweepFamily& family, double y)
 {
@@ -147,22 +153,20 @@ std::string RangeBar(const Plot& plot, const SweepFamily& family, double y)
     const double right = plot.X(family.HighestFound());
     const bool isTip = family.Quantity != "deflection";
     return TextAt(plot.Left - 10, y + 4, Anchor::End, family.Name + (isTip ? ": tip" : "")) +
-           Box(left - 1, y - 5, right - left + 2, 10, isTip ? "#b85400" : "#1f5fa8") +
+           Rectangle(left - 1, y - 5, right - left + 2, 10, isTip ? "#b85400" : "#1f5fa8") +
            LineFrom(plot.X(family.MeanFound()), y - 8, plot.X(family.MeanFound()), y + 8,
                     "stroke=\"#000000\" stroke-width=\"2\"");
 }
 
-std::string DrawRanges(const std::vector<SweepGroup>& sweep)
+std::string DrawRanges(const std::vector<const SweepFamily*>& families)
 {
-    const std::vector<const SweepFamily*> families = DeflectionFamilies(sweep);
-    const double top = 520;
-    const Plot plot{400,  top, Width - 30, top + BarPitch * static_cast<double>(families.size()),
-                    -100, 40,  0,          1};
-    std::string svg = TextAt(30, top - 42, Anchor::Start, "All deflections: lowest to highest, mean marked",
-                             std::string(Bold));
-    svg += TextAt(30, top - 22, Anchor::Start,
+    const Plot plot{400, RangesTop, Width - 30, RangesBottom(families.size()), -100, 40, 0, 1};
+    std::string svg = TextAt(30, plot.Top - 42, Anchor::Start,
+                             "All deflections: lowest to highest, mean marked", std::string(Bold));
+    svg += TextAt(30, plot.Top - 22, Anchor::Start,
                   "blue: the span; orange: the tip of an overhang; shaded: Kordavan on the unsafe side");
-    svg += Box(plot.Left, plot.Top, plot.X(0) - plot.Left, plot.Bottom - plot.Top, std::string(UnsafeFill));
+    svg += Rectangle(plot.Left, plot.Top, plot.X(0) - plot.Left, plot.Bottom - plot.Top,
+                     std::string(UnsafeFill));
     svg += VerticalGrid(plot, 20, 0);
     svg += LineFrom(plot.X(0), plot.Top, plot.X(0), plot.Bottom, std::string(ZeroStyle));
     for (std::size_t k = 0; k < families.size(); ++k) {
@@ -176,12 +180,14 @@ std::string DrawRanges(const std::vector<SweepGroup>& sweep)
 
 std::string DrawChart(const std::vector<SweepGroup>& sweep)
 {
-    return "<svg xmlns=\"http://www.w3.org/2000/svg\" " + At(Width, Height, "width", "height") +
-           " viewBox=\"0 0 " + Fixed(Width, 0) + " " + Fixed(Height, 0) +
+    const std::vector<const SweepFamily*> families = DeflectionFamilies(sweep);
+    const double height = RangesBottom(families.size()) + 60;
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" " + Place(Width, height, "width", "height") +
+           " viewBox=\"0 0 " + Fixed(Width, 0) + " " + Fixed(height, 0) +
            "\" font-family=\"DejaVu Sans, Helvetica, Arial, sans-serif\" font-size=\"13\" fill=\"#1a1a1a\">\n"
            "<title>Differences of Kordavan's deflections from beam theory</title>\n" +
-           Box(0, 0, Width, Height, "#ffffff") + DrawCurves(sweep.front().Families) + DrawRanges(sweep) +
-           "</svg>\n";
+           Rectangle(0, 0, Width, height, "#ffffff") + DrawCurves(sweep.front().Families) +
+           DrawRanges(families) + "</svg>\n";
 }
 
 }  // namespace kordavan::verification

@@ -1,10 +1,9 @@
 #include "Chapters.h"
+#include "Steps.h"
 
 namespace kordavan::verification {
 
 namespace {
-
-const std::string CLStep = "CL = (1 + A) / 1.9 - sqrt(((1 + A) / 1.9)^2 - A / 0.95)";
 
 Case SawnBeamOf(const std::string& edition, const std::string& buckling)
 {

@@ -1,10 +1,10 @@
 #include "Chapters.h"
+#include "Steps.h"
 
 namespace kordavan::verification {
 
 namespace {
 
-const std::string CpFormula = "Cp = (1 + A) / 1.6 - sqrt(((1 + A) / 1.6)^2 - A / 0.8)";
 const std::string InteractionFormula = "(fc / Fc')^2 + fb / (Fb' x (1 - fc / FcE))";
 
 Example ExteriorStud()
@@ -26,7 +26,7 @@ Example ExteriorStud()
            {"FcE, psi", "FcE = 0.822 x E x (1 - 1.645 x 0.25) x 1.03 / 1.66 / (12 x H / d)^2", "result.FcE",
             0.01},
            {"FcE / Fc*", "A = FcE / Fc*"},
-           {"Cp", CpFormula, "result.Cp", 0.01},
+           {"Cp", CpStep, "result.Cp", 0.01},
            {"Fc', psi", "Fc' = Fc* x Cp", "result.FcPrime", 0.01},
            {"fc, psi", "fc = P / (b x d)", "result.FcActual"},
            {"Interaction, at most 1", InteractionFormula, "result.Interaction", 0.01},
@@ -53,7 +53,7 @@ Example TallStud()
            {"Fc*, psi", "Fc* = 1250 x 1.1", "result.FcStar"},
            {"FcE, psi", "FcE = 0.3 x E / (12 x H / d)^2", "result.FcE"},
            {"FcE / Fc*", "A = FcE / Fc*"},
-           {"Cp", CpFormula, "result.Cp"},
+           {"Cp", CpStep, "result.Cp"},
            {"Fc', psi", "Fc' = Fc* x Cp", "result.FcPrime"},
            {"fc, psi", "fc = 900 / (b x d)", "result.FcActual"},
            {"Interaction", InteractionFormula, "result.Interaction", 0.01}}}}};

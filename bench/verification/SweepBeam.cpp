@@ -8,16 +8,16 @@ namespace kordavan::verification {
 
 namespace {
 
-constexpr double Breadth = 5.5;           // in.
-constexpr double Depth = 11.5;            // in.
-constexpr double E = 1.6e6;               // psi, DF-L #1 timber
-constexpr double WeightPerInch2 = 0.243;  // plf
+constexpr double MemberBreadth = 5.5;          // in.
+constexpr double MemberDepth = 11.5;           // in.
+constexpr double ModulusOfElasticity = 1.6e6;  // psi, DF-L #1 timber
+constexpr double WeightPerInch2 = 0.243;       // plf
 
 /// The boxes of the loads: those on the span come first, those on the overhang from these rows on.
 constexpr std::size_t FirstTipPoint = 4;
 constexpr std::size_t FirstTipPartial = 3;
 
-std::string Text(double value)
+std::string DigitsOf(double value)
 {
     std::array<char, 32> digits{};
     return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr};
@@ -25,18 +25,18 @@ std::string Text(double value)
 
 /// The rows of one load box as a JSON array: those on the span, blanks, those on the overhang.
 template <class Load, class Value>
-std::string Box(const std::string& name, const std::vector<Load>& onSpan, const std::vector<Load>& onOverhang,
-                std::size_t firstOnOverhang, Value value)
+std::string LoadBox(const std::string& name, const std::vector<Load>& onSpan,
+                    const std::vector<Load>& onOverhang, std::size_t firstOnOverhang, Value value)
 {
     std::vector<std::string> rows;
     for (const Load& load : onSpan) {
-        rows.push_back(Text(value(load)));
+        rows.push_back(DigitsOf(value(load)));
     }
     if (!onOverhang.empty()) {
         rows.resize(firstOnOverhang);
     }
     for (const Load& load : onOverhang) {
-        rows.push_back(Text(value(load)));
+        rows.push_back(DigitsOf(value(load)));
     }
     std::string text = ",\"" + name + "\":[";
     for (std::size_t k = 0; k < rows.size(); ++k) {
@@ -49,20 +49,20 @@ std::string PointBoxes(const SweepBeam& beam)
 {
     const auto weight = [](const PointLoad& load) { return load.P; };
     const auto place = [](const PointLoad& load) { return load.At; };
-    return Box("PT", beam.Points, beam.TipPoints, FirstTipPoint, weight) +
-           Box("LPT", beam.Points, beam.TipPoints, FirstTipPoint, weight) +
-           Box("DIS", beam.Points, beam.TipPoints, FirstTipPoint, place);
+    return LoadBox("PT", beam.Points, beam.TipPoints, FirstTipPoint, weight) +
+           LoadBox("LPT", beam.Points, beam.TipPoints, FirstTipPoint, weight) +
+           LoadBox("DIS", beam.Points, beam.TipPoints, FirstTipPoint, place);
 }
 
 std::string PartialBoxes(const SweepBeam& beam)
 {
     const auto weight = [](const LineLoad& load) { return load.Begin; };
-    return Box("PAR", beam.Partials, beam.TipPartials, FirstTipPartial, weight) +
-           Box("LPAR", beam.Partials, beam.TipPartials, FirstTipPartial, weight) +
-           Box("BEGP", beam.Partials, beam.TipPartials, FirstTipPartial,
-               [](const LineLoad& load) { return load.From; }) +
-           Box("ENDP", beam.Partials, beam.TipPartials, FirstTipPartial,
-               [](const LineLoad& load) { return load.To; });
+    return LoadBox("PAR", beam.Partials, beam.TipPartials, FirstTipPartial, weight) +
+           LoadBox("LPAR", beam.Partials, beam.TipPartials, FirstTipPartial, weight) +
+           LoadBox("BEGP", beam.Partials, beam.TipPartials, FirstTipPartial,
+                   [](const LineLoad& load) { return load.From; }) +
+           LoadBox("ENDP", beam.Partials, beam.TipPartials, FirstTipPartial,
+                   [](const LineLoad& load) { return load.To; });
 }
 
 /// Sides of a square bay whose diagonal is the span.
@@ -74,14 +74,14 @@ double HipSide(const SweepBeam& beam)
 std::string ConditionBoxes(const SweepBeam& beam)
 {
     if (beam.HipPsf > 0) {
-        const std::string side = Text(HipSide(beam));
-        const std::string psf = Text(beam.HipPsf);
-        const std::string uniform = Text(beam.UNIF);
+        const std::string side = DigitsOf(HipSide(beam));
+        const std::string psf = DigitsOf(beam.HipPsf);
+        const std::string uniform = DigitsOf(beam.UNIF);
         return ",\"IncButton\":true,\"Areas\":[true,true],\"IncTL\":\"" + psf + "\",\"IncLL\":\"" + psf +
                "\",\"IncUnifTL\":\"" + uniform + "\",\"IncUnifLL\":\"" + uniform + "\",\"Trib1\":\"" + side +
                "\",\"Trib2\":\"" + side + "\"";
     }
-    std::string text = ",\"UNIF\":\"" + Text(beam.UNIF) + "\",\"LUNIF\":\"" + Text(beam.UNIF) + "\"";
+    std::string text = ",\"UNIF\":\"" + DigitsOf(beam.UNIF) + "\",\"LUNIF\":\"" + DigitsOf(beam.UNIF) + "\"";
     if (beam.Overhang > 0) {
         text += ",\"OHbutton\":true";
     }
@@ -96,19 +96,21 @@ std::string ConditionBoxes(const SweepBeam& beam)
 
 std::string RequestOf(const SweepBeam& beam)
 {
-    return "{\"task\":\"beam\",\"criteria\":{\"Span\":\"" + Text(beam.Span) + "\"" + ConditionBoxes(beam) +
-           PointBoxes(beam) + PartialBoxes(beam) + ",\"NoWeight\":" + (beam.WithWeight ? "false" : "true") +
+    return "{\"task\":\"beam\",\"criteria\":{\"Span\":\"" + DigitsOf(beam.Span) + "\"" +
+           ConditionBoxes(beam) + PointBoxes(beam) + PartialBoxes(beam) +
+           ",\"NoWeight\":" + (beam.WithWeight ? "false" : "true") +
            R"(},"member":{"BreadthText":"6x","DepthText":"12","SpeciesText":"DF-L #1"}})";
 }
 
 ElasticBeam TheoryOf(const SweepBeam& beam)
 {
     const double spans = beam.Spans * beam.Span;
-    ElasticBeam theory{.Length = spans + beam.Overhang,
-                       .EI = E * Breadth * Depth * Depth * Depth / 12,
-                       .Supports = {},
-                       .Points = beam.Points,
-                       .Lines = beam.Partials};
+    ElasticBeam theory{
+        .Length = spans + beam.Overhang,
+        .EI = ModulusOfElasticity * MemberBreadth * MemberDepth * MemberDepth * MemberDepth / 12,
+        .Supports = {},
+        .Points = beam.Points,
+        .Lines = beam.Partials};
     for (int k = 0; k <= beam.Spans; ++k) {
         theory.Supports.push_back(k * beam.Span);
     }
@@ -126,7 +128,7 @@ ElasticBeam TheoryOf(const SweepBeam& beam)
         theory.Lines.push_back({0, 2 * whole / beam.Span, 0, beam.Span});
     }
     if (beam.WithWeight) {
-        const double weight = Breadth * Depth * WeightPerInch2;
+        const double weight = MemberBreadth * MemberDepth * WeightPerInch2;
         theory.Lines.push_back({weight, weight, 0, theory.Length});
     }
     return theory;

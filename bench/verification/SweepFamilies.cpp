@@ -4,9 +4,9 @@ namespace kordavan::verification {
 
 namespace {
 
-constexpr double L = 10;  // ft, span of every beam but those that vary it
+constexpr double SpanFt = 10;  // span L of every beam but those that vary it
 
-ElasticCurve CurveOf(const SweepBeam& beam)
+ElasticCurve ElasticCurveOf(const SweepBeam& beam)
 {
     return ElasticCurve(TheoryOf(beam));
 }
@@ -18,12 +18,12 @@ double EndOf(const SweepBeam& beam)
 
 double ExactSpanDeflection(const SweepBeam& beam)
 {
-    return CurveOf(beam).GreatestDeflection(0, beam.Spans * beam.Span);
+    return ElasticCurveOf(beam).GreatestDeflection(0, beam.Spans * beam.Span);
 }
 
 double ExactTipDeflection(const SweepBeam& beam)
 {
-    return CurveOf(beam).Deflection(EndOf(beam));
+    return ElasticCurveOf(beam).Deflection(EndOf(beam));
 }
 
 /// What the loads on the overhang alone do to the tip.
@@ -38,7 +38,7 @@ double ExactTipDrop(const SweepBeam& beam)
 
 double ExactSpanMoment(const SweepBeam& beam)
 {
-    return CurveOf(beam).GreatestMoment(0, beam.Span);
+    return ElasticCurveOf(beam).GreatestMoment(0, beam.Span);
 }
 
 const Measure SpanDeflection{"deflection", "analysis.LiveDeflIn", ExactSpanDeflection, {}};
@@ -49,40 +49,42 @@ const Measure LoadMoment{"moment of the loads", "analysis.MaxMomentStation", Exa
 const Measure MomentWithWeight{"moment with self-weight", "analysis.MaxMomentFtLb", ExactSpanMoment, {}};
 const Measure SupportMoment{"moment at R2",
                             "analysis.MaxMomentFtLb",
-                            [](const SweepBeam& beam) { return -CurveOf(beam).Moment(beam.Span); },
+                            [](const SweepBeam& beam) { return -ElasticCurveOf(beam).Moment(beam.Span); },
                             {}};
-const Measure SecondReaction{
-    "reaction R2", "analysis.R2Total", [](const SweepBeam& beam) { return CurveOf(beam).Reaction(1); }, {}};
+const Measure SecondReaction{"reaction R2",
+                             "analysis.R2Total",
+                             [](const SweepBeam& beam) { return ElasticCurveOf(beam).Reaction(1); },
+                             {}};
 
 SweepBeams OnePoint(bool withWeight)
 {
     return {"one point load", "a / L", 0.05, 0.5, 18, [withWeight](double a) {
-                return SweepBeam{.WithWeight = withWeight, .Points = {{1000, a * L}}};
+                return SweepBeam{.WithWeight = withWeight, .Points = {{1000, a * SpanFt}}};
             }};
 }
 
 const SweepBeams TwoPoints{"two equal point loads, a from each end", "a / L", 0.05, 0.45, 16, [](double a) {
-                               return SweepBeam{.Points = {{1000, a * L}, {1000, L - a * L}}};
+                               return SweepBeam{.Points = {{1000, a * SpanFt}, {1000, SpanFt - a * SpanFt}}};
                            }};
 const SweepBeams TwoPointsOneSide{
     "two equal point loads in one half, at a and a + 0.1 L", "a / L", 0.05, 0.4, 14, [](double a) {
-        return SweepBeam{.Points = {{1000, a * L}, {1000, (a + 0.1) * L}}};
+        return SweepBeam{.Points = {{1000, a * SpanFt}, {1000, (a + 0.1) * SpanFt}}};
     }};
 const SweepBeams PointAndUniform{
     "one point load and a uniform load of its weight", "a / L", 0.05, 0.5, 18, [](double a) {
-        return SweepBeam{.UNIF = 1000 / L, .Points = {{1000, a * L}}};
+        return SweepBeam{.UNIF = 1000 / SpanFt, .Points = {{1000, a * SpanFt}}};
     }};
 const SweepBeams PartialFromSupport{
     "partial load from a support", "length / L", 0.1, 1, 18, [](double length) {
-        return SweepBeam{.Partials = {{100, 100, 0, length * L}}};
+        return SweepBeam{.Partials = {{100, 100, 0, length * SpanFt}}};
     }};
 const SweepBeams PartialAtMidspan{
     "partial load about midspan", "length / L", 0.1, 0.9, 16, [](double length) {
-        return SweepBeam{.Partials = {{100, 100, (1 - length) / 2 * L, (1 + length) / 2 * L}}};
+        return SweepBeam{.Partials = {{100, 100, (1 - length) / 2 * SpanFt, (1 + length) / 2 * SpanFt}}};
     }};
 const SweepBeams PartialMoved{
     "partial load 0.2 L long, moved along", "centre / L", 0.1, 0.5, 16, [](double centre) {
-        return SweepBeam{.Partials = {{100, 100, (centre - 0.1) * L, (centre + 0.1) * L}}};
+        return SweepBeam{.Partials = {{100, 100, (centre - 0.1) * SpanFt, (centre + 0.1) * SpanFt}}};
     }};
 const SweepBeams Hip{
     "hip or valley, with 0 to 100 plf of uniform load", "uniform load in plf", 0, 100, 10, [](double plf) {
@@ -110,46 +112,51 @@ SweepGroup SimpleSpans()
 
 SweepBeam UniformSpan(double c)
 {
-    return {.Overhang = c * L, .UNIF = 100, .TipPoints = {{1, c * L}}};
+    return {.Overhang = c * SpanFt, .UNIF = 100, .TipPoints = {{1, c * SpanFt}}};
 }
 
 SweepBeam UniformThroughout(double c, bool withWeight)
 {
-    return {.Overhang = c * L, .UNIF = 100, .WithWeight = withWeight, .TipPartials = {{100, 100, 0, c * L}}};
+    return {.Overhang = c * SpanFt,
+            .UNIF = 100,
+            .WithWeight = withWeight,
+            .TipPartials = {{100, 100, 0, c * SpanFt}}};
 }
 
 const SweepBeams UniformOnSpan{"uniform load on the span alone", "overhang / L", 0.1, 0.5, 8, UniformSpan};
 const SweepBeams PointAtTip{"point load at the tip", "overhang / L", 0.1, 0.5, 8, [](double c) {
-                                return SweepBeam{.Overhang = c * L, .TipPoints = {{1000, c * L}}};
+                                return SweepBeam{.Overhang = c * SpanFt, .TipPoints = {{1000, c * SpanFt}}};
                             }};
 const SweepBeams PointsOnOverhang{
     "two equal point loads, at the tip and half way", "overhang / L", 0.1, 0.5, 8, [](double c) {
-        return SweepBeam{.Overhang = c * L, .TipPoints = {{1000, c * L}, {1000, c * L / 2}}};
+        return SweepBeam{.Overhang = c * SpanFt, .TipPoints = {{1000, c * SpanFt}, {1000, c * SpanFt / 2}}};
     }};
 const SweepBeams PartialOnOverhang{
     "partial load over the whole overhang", "overhang / L", 0.1, 0.5, 8, [](double c) {
-        return SweepBeam{.Overhang = c * L, .TipPartials = {{100, 100, 0, c * L}}};
+        return SweepBeam{.Overhang = c * SpanFt, .TipPartials = {{100, 100, 0, c * SpanFt}}};
     }};
 const SweepBeams PartialNearTip{
     "partial load on the outer half of the overhang", "overhang / L", 0.1, 0.5, 8, [](double c) {
-        return SweepBeam{.Overhang = c * L, .TipPartials = {{100, 100, c * L / 2, c * L}}};
+        return SweepBeam{.Overhang = c * SpanFt, .TipPartials = {{100, 100, c * SpanFt / 2, c * SpanFt}}};
     }};
 const SweepBeams PointOnBackspan{
     "point load on the span, overhang 0.3 L", "a / L", 0.1, 0.9, 16, [](double a) {
-        return SweepBeam{.Overhang = 0.3 * L, .Points = {{1000, a * L}}, .TipPoints = {{1, 0.3 * L}}};
+        return SweepBeam{
+            .Overhang = 0.3 * SpanFt, .Points = {{1000, a * SpanFt}}, .TipPoints = {{1, 0.3 * SpanFt}}};
     }};
 const SweepBeams PartialOnBackspan{
     "partial load 0.4 L long on the span, overhang 0.3 L", "centre / L", 0.2, 0.8, 12, [](double centre) {
-        return SweepBeam{.Overhang = 0.3 * L,
-                         .TipPoints = {{1, 0.3 * L}},
-                         .Partials = {{100, 100, (centre - 0.2) * L, (centre + 0.2) * L}}};
+        return SweepBeam{.Overhang = 0.3 * SpanFt,
+                         .TipPoints = {{1, 0.3 * SpanFt}},
+                         .Partials = {{100, 100, (centre - 0.2) * SpanFt, (centre + 0.2) * SpanFt}}};
     }};
 
-const SweepBeams HeavyBackspan{
-    "point load on the span, overhang 0.3 L", "a / L", 0.1, 0.9, 16, [](double a) {
-        return SweepBeam{
-            .Overhang = 0.3 * L, .WithWeight = true, .Points = {{1000, a * L}}, .TipPoints = {{1, 0.3 * L}}};
-    }};
+const SweepBeams HeavyBackspan{"point load on the span, overhang 0.3 L", "a / L", 0.1, 0.9, 16, [](double a) {
+                                   return SweepBeam{.Overhang = 0.3 * SpanFt,
+                                                    .WithWeight = true,
+                                                    .Points = {{1000, a * SpanFt}},
+                                                    .TipPoints = {{1, 0.3 * SpanFt}}};
+                               }};
 
 SweepBeams Throughout(bool withWeight)
 {

@@ -1,10 +1,9 @@
 #include "Chapters.h"
+#include "Steps.h"
 
 namespace kordavan::verification {
 
 namespace {
-
-const std::string CpFormula = "Cp = (1 + A) / 1.6 - sqrt(((1 + A) / 1.6)^2 - A / 0.8)";
 
 Example BothPlanes()
 {
@@ -21,7 +20,7 @@ Example BothPlanes()
            {"Fc*, psi", "Fc* = 1350 x 1.15", "result.FcStar"},
            {"FcE, psi", "FcE = 0.822 x 1600000 x (1 - 1.645 x 0.25) x 1.03 / 1.66 / S^2", "result.FcE", 0.01},
            {"FcE / Fc*", "A = FcE / Fc*"},
-           {"Cp", CpFormula, "result.Cp2", 0.01},
+           {"Cp", CpStep, "result.Cp2", 0.01},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime", 0.01},
            {"fc, psi", "P / D^2", "result.FcActual"}}},
          {"4x6 DF-L #2, 6 ft and 10 ft, NDS 1997: D2 governs",
@@ -33,7 +32,7 @@ Example BothPlanes()
            {"Fc*, psi", "Fc* = 1300 x 1.1", "result.FcStar"},
            {"FcE, psi", "FcE = 0.3 x 1600000 / S^2", "result.FcE"},
            {"FcE / Fc*", "A = FcE / Fc*"},
-           {"Cp", CpFormula, "result.Cp2"},
+           {"Cp", CpStep, "result.Cp2"},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime"}}},
          {"4x6 DF-L #2, 10 ft both ways, NDS 2018: D1 governs",
           R"({"task":"column","column":{"cReacText":"6000","cHTtext":"10","cD1text":"10","cD2text":"10",)"
@@ -43,7 +42,7 @@ Example BothPlanes()
            {"Fc*, psi", "Fc* = 1350 x 1.1", "result.FcStar", 5},
            {"FcE, psi", "FcE = 0.822 x 1600000 x (1 - 1.645 x 0.25) x 1.03 / 1.66 / S^2", "result.FcE", 0.01},
            {"FcE / Fc*", "A = FcE / Fc*"},
-           {"Cp", CpFormula, "result.Cp1", 5},
+           {"Cp", CpStep, "result.Cp1", 5},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime", 0.4}}},
          {"4x6 DF-L #2, 2 ft, NDS 2018: D1 governs",
           R"({"task":"column","column":{"cReacText":"20000","cHTtext":"2","cD1text":"2","cD2text":"2",)"
@@ -51,7 +50,7 @@ Example BothPlanes()
           "le = 24 in., D = 3.5 in.",
           {{"Fc*, psi", "Fc* = 1350 x 1.1", "result.FcStar", 5},
            {"FcE / Fc*", "A = 0.822 x 1600000 x (1 - 1.645 x 0.25) x 1.03 / 1.66 / (le / D)^2 / Fc*"},
-           {"Cp", CpFormula, "result.Cp1", 0.4},
+           {"Cp", CpStep, "result.Cp1", 0.4},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime", 4.5}}}}};
 }
 
@@ -68,7 +67,7 @@ Example TimberPosts()
           {{"le / d", "S = le / D", "result.SlendernessD2"},
            {"Fc*, psi", "Fc* = 1000 x 1.15", "result.FcStar"},
            {"FcE / Fc*", "A = 0.822 x 1600000 x (1 - 1.645 x 0.25) x 1.03 / 1.66 / S^2 / Fc*"},
-           {"Cp", CpFormula, "result.Cp2", 0.01},
+           {"Cp", CpStep, "result.Cp2", 0.01},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime", 0.01}}},
          {"Wet, NDS 2001, buckling factor Ke 0.65",
           R"({"task":"column","edition":"2001","column":{"cReacText":"12000","cHTtext":"12","cD1text":"12",)"
@@ -79,7 +78,7 @@ Example TimberPosts()
            {"Fc*, psi", "Fc* = 1000 x 0.91", "result.FcStar"},
            {"FcE, psi", "FcE = 0.3 x 1600000 / S^2", "result.FcE"},
            {"FcE / Fc*", "A = FcE / Fc*"},
-           {"Cp", CpFormula, "result.Cp2"},
+           {"Cp", CpStep, "result.Cp2"},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime"}}}}};
 }
 
@@ -109,7 +108,7 @@ Example BuiltUpPosts()
           "le = 96 in., D = 3.5 in., Fc* = 1322.5 psi",
           {{"le / d", "S = le / D", "result.SlendernessD2"},
            {"FcE / Fc*", "A = 0.822 x 1400000 x (1 - 1.645 x 0.25) x 1.03 / 1.66 / S^2 / Fc*"},
-           {"Cp", CpFormula, "result.Cp2", 0.01},
+           {"Cp", CpStep, "result.Cp2", 0.01},
            {"Fc', psi", "Fc* x Cp", "result.FcPrime", 0.01}}}}};
 }
 
