@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -58,6 +59,16 @@ void Form::FocusOn(std::string_view control)
         box->selectAll();
     }
     scroll->ensureWidgetVisible(target);
+}
+
+void Form::ShowNote(std::string_view text)
+{
+    constexpr int shownFor = 60000;  // ms
+    QStatusBar* const bar = statusBar();
+    bar->setSizeGripEnabled(false);
+    connect(bar, &QStatusBar::messageChanged, bar,
+            [bar](const QString& shown) { bar->setVisible(!shown.isEmpty()); });
+    bar->showMessage(Text(text), shownFor);
 }
 
 void Form::FitToScreen()
