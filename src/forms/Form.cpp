@@ -17,6 +17,22 @@
 
 namespace kordavan {
 
+namespace {
+
+/// The form grows by its bar, so that the body does not begin to scroll.
+void ShowBar(QWidget& form, QStatusBar& bar, bool isShown)
+{
+    if (isShown == bar.isVisibleTo(&form)) {
+        return;
+    }
+    bar.setVisible(isShown);
+    const int grownBy = isShown ? bar.sizeHint().height() : -bar.sizeHint().height();
+    const QSize room = QApplication::primaryScreen()->availableGeometry().size();
+    form.resize(QSize(form.width(), form.height() + grownBy).boundedTo(room));
+}
+
+}  // namespace
+
 Form::Form(Walk& theWalk, std::string_view name)
     : currentWalk(theWalk),
       scroll(new QScrollArea),
@@ -66,8 +82,9 @@ void Form::ShowNote(std::string_view text)
     constexpr int shownFor = 60000;  // ms
     QStatusBar* const bar = statusBar();
     bar->setSizeGripEnabled(false);
-    connect(bar, &QStatusBar::messageChanged, bar,
-            [bar](const QString& shown) { bar->setVisible(!shown.isEmpty()); });
+    bar->hide();
+    connect(bar, &QStatusBar::messageChanged, this,
+            [this, bar](const QString& note) { ShowBar(*this, *bar, !note.isEmpty()); });
     bar->showMessage(Text(text), shownFor);
 }
 
