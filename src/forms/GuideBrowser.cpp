@@ -1,0 +1,223 @@
+#include "forms/GuideBrowser.h"
+
+#include <QEvent>
+#include <QImage>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextTable>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "forms/Kit.h"
+
+namespace kordavan {
+
+namespace {
+
+constexpr double LinePercent = 125;
+constexpr double ZoomStep = 1.1;
+constexpr int MostZoomSteps = 12;
+
+QString ResourceOf(const QString& link)
+{
+    return QStringLiteral("qrc:/guide/") + link;
+}
+
+/// Calls with the cursor on each fragment of the text whose format meets a condition.
+template <typename Condition, typename Change>
+void ForFragments(QTextDocument& document, const Condition& condition, const Change& change)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            const QTextFragment fragment = part.fragment();
+            if (condition(fragment.charFormat())) {
+                QTextCursor cursor(&document);
+                cursor.setPosition(fragment.position());
+                cursor.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+                change(cursor, fragment.charFormat());
+            }
+        }
+    }
+}
+
+/// Headings get their anchors, for which a page as written has no place.
+void AnchorHeadings(QTextDocument& document)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormat().headingLevel() > 0) {
+            QTextCursor cursor(block);
+            cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+            QTextCharFormat format;
+            format.setAnchorNames({GuideBrowser::AnchorOf(block.text())});
+            cursor.mergeCharFormat(format);
+        }
+    }
+}
+
+void SpaceLines(QTextDocument& document, double lineHeight)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        QTextBlockFormat format;
+        format.setLineHeight(LinePercent, QTextBlockFormat::ProportionalHeight);
+        if (block.blockFormat().headingLevel() > 1) {
+            format.setTopMargin(1.25 * lineHeight);
+            format.setBottomMargin(0.25 * lineHeight);
+        }
+        QTextCursor(block).mergeBlockFormat(format);
+    }
+}
+
+void RuleTables(QTextDocument& document, double lineHeight, const QColor& rule)
+{
+    for (QTextFrame* const frame : document.rootFrame()->childFrames()) {
+        if (auto* const table = qobject_cast<QTextTable*>(frame)) {
+            QTextTableFormat format = table->format();
+            format.setBorderCollapse(true);
+            format.setBorder(1);
+            format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+            format.setBorderBrush(rule);
+            format.setCellPadding(0.3 * lineHeight);
+            format.setTopMargin(0.5 * lineHeight);
+            format.setBottomMargin(0.75 * lineHeight);
+            table->setFormat(format);
+        }
+    }
+}
+
+}  // namespace
+
+GuideBrowser::GuideBrowser()
+{
+    Describe(*this, {.Name = "GuideText", .Tip = {}});
+    setAccessibleName(QStringLiteral("The page of the guide"));
+    setOpenExternalLinks(false);
+    setUndoRedoEnabled(false);
+    usualPointSize = font().pointSizeF();
+}
+
+void GuideBrowser::Open(const QString& link)
+{
+    setSource(QUrl(ResourceOf(link)));
+}
+
+void GuideBrowser::ZoomBy(int steps)
+{
+    zoomSteps = std::clamp(zoomSteps + steps, -MostZoomSteps / 2, MostZoomSteps);
+    ApplyZoom();
+}
+
+void GuideBrowser::ZoomToUsual()
+{
+    zoomSteps = 0;
+    ApplyZoom();
+}
+
+bool GuideBrowser::Find(const QString& words, QTextDocument::FindFlags flags)
+{
+    QTextCursor found = document()->find(words, textCursor(), flags);
+    if (found.isNull()) {
+        QTextCursor edge(document());
+        edge.movePosition(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End
+                                                                      : QTextCursor::Start);
+        found = document()->find(words, edge, flags);
+    }
+    if (found.isNull()) {
+        return false;
+    }
+    setTextCursor(found);
+    return true;
+}
+
+QString GuideBrowser::AnchorOf(const QString& heading)
+{
+    QString anchor;
+    for (const QChar letter : heading.toLower()) {
+        if (letter.isLetterOrNumber() || letter == QLatin1Char('-')) {
+            anchor += letter;
+        } else if (letter == QLatin1Char(' ')) {
+            anchor += QLatin1Char('-');
+        }
+    }
+    return anchor;
+}
+
+/// A link within the page does not load it again.
+void GuideBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
+{
+    const bool isSamePage = source().adjusted(QUrl::RemoveFragment) == url.adjusted(QUrl::RemoveFragment);
+    QTextBrowser::doSetSource(url, type);
+    if (!isSamePage) {
+        SetOut();
+    }
+    if (url.hasFragment()) {
+        scrollToAnchor(url.fragment());
+    }
+}
+
+void GuideBrowser::SetOut()
+{
+    const double lineHeight = fontMetrics().height();
+    document()->setDocumentMargin(lineHeight);
+    AnchorHeadings(*document());
+    SpaceLines(*document(), lineHeight);
+    RuleTables(*document(), lineHeight, palette().color(QPalette::Mid));
+    FitPictures();
+    moveCursor(QTextCursor::Start);
+}
+
+void GuideBrowser::FitPictures()
+{
+    const double room = viewport()->width() - 2 * document()->documentMargin();
+    const double zoom = std::pow(ZoomStep, zoomSteps);
+    ForFragments(
+        *document(), [](const QTextCharFormat& format) { return format.isImageFormat(); },
+        [&](QTextCursor& cursor, const QTextCharFormat& format) {
+            QTextImageFormat image = format.toImageFormat();
+            const QVariant picture = document()->resource(QTextDocument::ImageResource, QUrl(image.name()));
+            const QSizeF natural = picture.value<QImage>().size();
+            const QSizeF size = natural * std::min(zoom, room / std::max(natural.width(), 1.0));
+            image.setWidth(size.width());
+            image.setHeight(size.height());
+            cursor.setCharFormat(image);
+        });
+}
+
+void GuideBrowser::ApplyZoom()
+{
+    QFont letters = font();
+    letters.setPointSizeF(usualPointSize * std::pow(ZoomStep, zoomSteps));
+    setFont(letters);
+}
+
+/// Letters of another size, or colours of another palette, set the page out anew where it was being read.
+void GuideBrowser::changeEvent(QEvent* event)
+{
+    QTextBrowser::changeEvent(event);
+    const bool isLook = event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange;
+    if (isLook && !source().isEmpty()) {
+        const double part =
+            verticalScrollBar()->value() / std::max(1.0, 1.0 * verticalScrollBar()->maximum());
+        reload();
+        SetOut();
+        verticalScrollBar()->setValue(static_cast<int>(part * verticalScrollBar()->maximum()));
+    }
+}
+
+void GuideBrowser::resizeEvent(QResizeEvent* event)
+{
+    QTextBrowser::resizeEvent(event);
+    FitPictures();
+}
+
+void GuideBrowser::wheelEvent(QWheelEvent* event)
+{
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        ZoomBy(event->angleDelta().y() > 0 ? 1 : -1);
+        event->accept();
+    } else {
+        QTextBrowser::wheelEvent(event);
+    }
+}
+
+}  // namespace kordavan
