@@ -191,6 +191,7 @@ void EnterNotch(PictureDesk& desk)
 Form& Joist(PictureDesk& desk)
 {
     desk.Open("F1");
+    desk.Enter({{"Descrip", "Floor joists"}});
     return desk.Shown();
 }
 
@@ -256,7 +257,7 @@ Form& Hips(PictureDesk& desk)
     desk.Press({"IncButton"});
     desk.Enter({{"Proj", "Hilltop residence"}, {"ID", "H-1"}, {"Descrip", "Hip rafter"}, {"Dur", "1.15"}});
     desk.Enter({{"IncLL", "30"}, {"IncTL", "45"}, {"Trib1", "10"}, {"Trib2", "10"}});
-    desk.Press({"CalctheSpan", "Areas[0]", "Areas[1]", "IncCalcButton"});
+    desk.Press({"CalctheSpan", "Areas[0]", "Areas[3]", "IncCalcButton"});
     return desk.Shown();
 }
 
@@ -385,7 +386,10 @@ Form& NotchPage(PictureDesk& desk)
 struct PictureRow {
     const char* Name;
     Form& (*Show)(PictureDesk&);
+    int MostHeight = 720;  // pixels
 };
+
+constexpr int RecordHeight = 820;
 
 constexpr std::array Pictures{
     PictureRow{"joist", Joist},
@@ -394,7 +398,7 @@ constexpr std::array Pictures{
     PictureRow{"criteria", Criteria},
     PictureRow{"entering-loads", EnteringLoads},
     PictureRow{"entering-hips", EnteringHips},
-    PictureRow{"data-record", DataRecord},
+    PictureRow{"data-record", DataRecord, RecordHeight},
     PictureRow{"print-form", Print},
     PictureRow{"load-diagram", Diagram},
     PictureRow{"multiple-spans", MultipleSpans},
@@ -408,13 +412,13 @@ constexpr std::array Pictures{
     PictureRow{"notes", Notes},
     PictureRow{"columns", WoodColumn},
     PictureRow{"column-selection", WoodColumnSizes},
-    PictureRow{"column-record", WoodColumnRecord},
+    PictureRow{"column-record", WoodColumnRecord, RecordHeight},
     PictureRow{"steel-column", SteelColumn},
     PictureRow{"steel-column-selection", SteelColumnSizes},
     PictureRow{"studs", Stud},
-    PictureRow{"stud-record", StudRecord},
+    PictureRow{"stud-record", StudRecord, RecordHeight},
     PictureRow{"notch", Notch},
-    PictureRow{"notch-report", NotchPage},
+    PictureRow{"notch-report", NotchPage, RecordHeight},
 };
 
 /// Sixteen levels of each colour and a palette make the file small; letters stay smooth.
@@ -445,7 +449,8 @@ bool Take(const PictureRow& row, const std::string& examples, const QDir& folder
 {
     PictureDesk desk(examples);
     Form& form = row.Show(desk);
-    form.resize(form.sizeHint());
+    const QSize size = form.sizeHint();
+    form.resize(size.boundedTo(QSize(size.width(), row.MostHeight)));
     QApplication::processEvents();
     const QString path = folder.filePath(QLatin1String(row.Name) + QLatin1String(".png"));
     const std::string refusals = desk.Refusals();
@@ -464,6 +469,7 @@ bool Take(const PictureRow& row, const std::string& examples, const QDir& folder
 int main(int argc, char* argv[])
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "default.warning=false");  // of what this platform cannot do
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
