@@ -15,7 +15,7 @@ namespace kordavan {
 
 namespace {
 
-using AnalysisField = FloatField<AnalysisResult>;
+using AnalysisField = FloatMember<AnalysisResult>;
 
 constexpr std::array AppliedLoadFields{
     AnalysisField{"PointTotalSum", &AnalysisResult::PointTotalSum},
@@ -69,7 +69,7 @@ constexpr std::array CandidateFields{
     AnalysisField{"CreepFactor", &AnalysisResult::CreepFactor},
 };
 
-using FactorField = FloatField<AdjustmentFactors>;
+using FactorField = FloatMember<AdjustmentFactors>;
 
 constexpr std::array ServiceFields{
     FactorField{"Cd", &AdjustmentFactors::Cd},
@@ -99,7 +99,7 @@ constexpr std::array CompositeFields{
     FactorField{"CLOverhang", &AdjustmentFactors::CLOverhang},
 };
 
-using AdjustedField = FloatField<AdjustedValues>;
+using AdjustedField = FloatMember<AdjustedValues>;
 
 constexpr std::array AdjustedFields{
     AdjustedField{"FbAdj", &AdjustedValues::FbAdj}, AdjustedField{"FbStar", &AdjustedValues::FbStar},
@@ -107,7 +107,7 @@ constexpr std::array AdjustedFields{
     AdjustedField{"EAdj", &AdjustedValues::EAdj},
 };
 
-using TestField = FloatField<MemberTestResult>;
+using TestField = FloatMember<MemberTestResult>;
 
 constexpr std::array TestFields{
     TestField{"SectionReq", &MemberTestResult::SectionReq},

@@ -1,40 +1,40 @@
 #include "batch/ColumnRequest.h"
 
-#include <algorithm>
 #include <array>
 #include <string>
 #include <string_view>
 #include <variant>
 
+#include "batch/FieldTable.h"
 #include "columns/ColumnCriteria.h"
 
 namespace kordavan {
 
 namespace {
 
-using Target = std::variant<std::string ColumnEntry::*, bool ColumnEntry::*, ColumnType ColumnEntry::*,
-                            ColumnValueGroup ColumnEntry::*>;
+using ColumnTarget = std::variant<std::string ColumnEntry::*, bool ColumnEntry::*, ColumnType ColumnEntry::*,
+                                  ColumnValueGroup ColumnEntry::*>;
 
-struct EntryField {
+struct ColumnField {
     std::string_view Name;
-    Target Into;
+    ColumnTarget Into;
 };
 
-constexpr std::array Fields{
-    EntryField{"cReacText", &ColumnEntry::cReacText},
-    EntryField{"cHTtext", &ColumnEntry::cHTtext},
-    EntryField{"cD1text", &ColumnEntry::cD1text},
-    EntryField{"cD2text", &ColumnEntry::cD2text},
-    EntryField{"cModeText", &ColumnEntry::cModeText},
-    EntryField{"cDurText", &ColumnEntry::cDurText},
-    EntryField{"cFcText", &ColumnEntry::cFcText},
-    EntryField{"cEtext", &ColumnEntry::cEtext},
-    EntryField{"cWetButton", &ColumnEntry::cWetButton},
-    EntryField{"ColIncised", &ColumnEntry::ColIncised},
-    EntryField{"ResetKf", &ColumnEntry::ResetKf},
-    EntryField{"ColSpeciesCombo", &ColumnEntry::ColSpeciesCombo},
-    EntryField{"ColumnType", &ColumnEntry::Type},
-    EntryField{"ValueGroup", &ColumnEntry::ValueGroup},
+constexpr std::array ColumnFields{
+    ColumnField{"cReacText", &ColumnEntry::cReacText},
+    ColumnField{"cHTtext", &ColumnEntry::cHTtext},
+    ColumnField{"cD1text", &ColumnEntry::cD1text},
+    ColumnField{"cD2text", &ColumnEntry::cD2text},
+    ColumnField{"cModeText", &ColumnEntry::cModeText},
+    ColumnField{"cDurText", &ColumnEntry::cDurText},
+    ColumnField{"cFcText", &ColumnEntry::cFcText},
+    ColumnField{"cEtext", &ColumnEntry::cEtext},
+    ColumnField{"cWetButton", &ColumnEntry::cWetButton},
+    ColumnField{"ColIncised", &ColumnEntry::ColIncised},
+    ColumnField{"ResetKf", &ColumnEntry::ResetKf},
+    ColumnField{"ColSpeciesCombo", &ColumnEntry::ColSpeciesCombo},
+    ColumnField{"ColumnType", &ColumnEntry::Type},
+    ColumnField{"ValueGroup", &ColumnEntry::ValueGroup},
 };
 
 template <typename Value>
@@ -72,7 +72,7 @@ Value ChoiceOf(const JsonValue& value, const std::array<Button<Value>, Count>& b
     path.Fail("one of " + expected + " is expected");
 }
 
-struct FieldReader {
+struct ColumnFieldReader {
     const JsonValue& Value;
     const FieldPath& Path;
     ColumnEntry& Entry;
@@ -106,12 +106,8 @@ void ReadColumnEntry(const JsonValue& column, const FieldPath& path, Edition edi
     for (const JsonValue::Member& json : ObjectOf(column, path).GetObject()) {
         const std::string_view name = NameOf(json);
         const FieldPath fieldPath = path.Field(name);
-        const auto field = std::find_if(Fields.begin(), Fields.end(),
-                                        [name](const EntryField& row) { return row.Name == name; });
-        if (field == Fields.end()) {
-            fieldPath.Fail("no such field of a column");
-        }
-        std::visit(FieldReader{json.value, fieldPath, entry}, field->Into);
+        std::visit(ColumnFieldReader{json.value, fieldPath, entry},
+                   FieldNamed(ColumnFields, name, fieldPath, "no such field of a column").Into);
     }
     FillAbsentValues(column, edition, entry);
 }

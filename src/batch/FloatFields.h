@@ -10,16 +10,16 @@ namespace kordavan {
 
 /// A figure of a record, and its name in an answer.
 template <typename Record>
-struct FloatField {
+struct FloatMember {
     std::string_view Name;
     float Record::*Value;
 };
 
 template <typename Record, std::size_t Count>
-void WriteFields(const Record& record, const std::array<FloatField<Record>, Count>& fields,
+void WriteFields(const Record& record, const std::array<FloatMember<Record>, Count>& fields,
                  AnswerWriter& answer)
 {
-    for (const FloatField<Record>& field : fields) {
+    for (const FloatMember<Record>& field : fields) {
         answer.Field(field.Name, record.*field.Value);
     }
 }

@@ -1,27 +1,27 @@
 #include "batch/MemberRequest.h"
 
-#include <algorithm>
 #include <array>
 #include <span>
 #include <string>
 #include <string_view>
 #include <variant>
 
+#include "batch/FieldTable.h"
 #include "materials/SclProducts.h"
 
 namespace kordavan {
 
 namespace {
 
-using Target = std::variant<std::string MemberEntry::*, std::size_t MemberEntry::*,
-                            std::string CustomEntry::*, bool CustomEntry::*>;
+using MemberTarget = std::variant<std::string MemberEntry::*, std::size_t MemberEntry::*,
+                                  std::string CustomEntry::*, bool CustomEntry::*>;
 
 struct MemberField {
     std::string_view Name;
-    Target Into;
+    MemberTarget Into;
 };
 
-constexpr std::array Fields{
+constexpr std::array MemberFields{
     MemberField{"BreadthText", &MemberEntry::BreadthText},
     MemberField{"DepthText", &MemberEntry::DepthText},
     MemberField{"SpeciesText", &MemberEntry::SpeciesText},
@@ -64,11 +64,11 @@ std::span<const MemberField> FieldsOf(SpeciesGroup group)
     if (group == SpeciesGroup::Scl) {
         return SclFields;
     }
-    const std::span<const MemberField> all(Fields);
+    const std::span<const MemberField> all(MemberFields);
     return group == SpeciesGroup::Custom ? all : all.first(ListedFieldCount);
 }
 
-struct FieldReader {
+struct MemberFieldReader {
     const JsonValue& Value;
     const FieldPath& Path;
     MemberEntry& Entry;
@@ -90,12 +90,8 @@ void ReadMember(const JsonValue& member, const FieldPath& path, SpeciesGroup gro
     for (const JsonValue::Member& json : ObjectOf(member, path).GetObject()) {
         const std::string_view name = NameOf(json);
         const FieldPath fieldPath = path.Field(name);
-        const auto field = std::find_if(fields.begin(), fields.end(),
-                                        [name](const MemberField& row) { return row.Name == name; });
-        if (field == fields.end()) {
-            fieldPath.Fail("no such field in this material group");
-        }
-        std::visit(FieldReader{json.value, fieldPath, entry}, field->Into);
+        std::visit(MemberFieldReader{json.value, fieldPath, entry},
+                   FieldNamed(fields, name, fieldPath, "no such field in this material group").Into);
     }
     if (group == SpeciesGroup::Scl && !entry.Custom.Exponent.empty() && !IsCustomScl(entry.Product)) {
         path.Field("Exponent").Fail("only products of the user's own have one");

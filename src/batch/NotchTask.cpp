@@ -1,6 +1,5 @@
 #include "batch/NotchTask.h"
 
-#include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
@@ -11,6 +10,7 @@
 #include "batch/AnswerOutcome.h"
 #include "batch/BeamRun.h"
 #include "batch/CollectingUser.h"
+#include "batch/FieldTable.h"
 #include "notch/NotchCheck.h"
 #include "notch/NotchTexts.h"
 
@@ -18,9 +18,9 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> TaskFields{"task", "id", "edition", "notch"};
+constexpr std::array<std::string_view, 4> NotchTaskFields{"task", "id", "edition", "notch"};
 
-struct ListPosition {
+struct NotchListPosition {
     int NotchEntry::*Position;
     int Last;
 };
@@ -28,17 +28,17 @@ struct ListPosition {
 /// A click on a line of the list of years.
 struct YearClick {};
 
-using Target = std::variant<std::string NotchEntry::*, bool NotchEntry::*, ListPosition, YearClick>;
+using NotchTarget = std::variant<std::string NotchEntry::*, bool NotchEntry::*, NotchListPosition, YearClick>;
 
 struct NotchField {
     std::string_view Name;
-    Target Into;
+    NotchTarget Into;
 };
 
-constexpr std::array Fields{
-    NotchField{"MemberListBox", ListPosition{&NotchEntry::MemberListBox, NotchMemberNames.size() - 1}},
-    NotchField{"NotchListBox", ListPosition{&NotchEntry::NotchListBox, NotchTypeNames.size() - 1}},
-    NotchField{"DurListbox", ListPosition{&NotchEntry::DurListbox, NotchDurations.size() - 1}},
+constexpr std::array NotchFields{
+    NotchField{"MemberListBox", NotchListPosition{&NotchEntry::MemberListBox, NotchMemberNames.size() - 1}},
+    NotchField{"NotchListBox", NotchListPosition{&NotchEntry::NotchListBox, NotchTypeNames.size() - 1}},
+    NotchField{"DurListbox", NotchListPosition{&NotchEntry::DurListbox, NotchDurations.size() - 1}},
     NotchField{"MaxVtextbox", &NotchEntry::MaxVtextbox},
     NotchField{"breadthtextbox", &NotchEntry::breadthtextbox},
     NotchField{"depthtextbox", &NotchEntry::depthtextbox},
@@ -54,7 +54,7 @@ constexpr std::array Fields{
     NotchField{"NDSyearList", YearClick{}},
 };
 
-struct FieldReader {
+struct NotchFieldReader {
     const JsonValue& Value;
     const FieldPath& Path;
     NotchSession& Notch;
@@ -62,7 +62,7 @@ struct FieldReader {
 
     void operator()(std::string NotchEntry::*text) const { Notch.Entry.*text = EntryText(Value, Path); }
     void operator()(bool NotchEntry::*flag) const { Notch.Entry.*flag = FlagOf(Value, Path); }
-    void operator()(const ListPosition& list) const
+    void operator()(const NotchListPosition& list) const
     {
         Notch.Entry.*list.Position = PositionOf(Value, list.Last, Path);
     }
@@ -73,17 +73,13 @@ struct FieldReader {
     }
 };
 
-void ReadFields(const JsonValue& json, const FieldPath& path, NotchSession& notch, UserPort& user)
+void ReadNotchFields(const JsonValue& json, const FieldPath& path, NotchSession& notch, UserPort& user)
 {
     for (const JsonValue::Member& member : ObjectOf(json, path).GetObject()) {
         const std::string_view name = NameOf(member);
         const FieldPath fieldPath = path.Field(name);
-        const auto* const field = std::find_if(Fields.begin(), Fields.end(),
-                                               [name](const NotchField& row) { return row.Name == name; });
-        if (field == Fields.end()) {
-            fieldPath.Fail("no such field");
-        }
-        std::visit(FieldReader{member.value, fieldPath, notch, user}, field->Into);
+        std::visit(NotchFieldReader{member.value, fieldPath, notch, user},
+                   FieldNamed(NotchFields, name, fieldPath, "no such field").Into);
     }
 }
 
@@ -166,12 +162,12 @@ void WriteLabels(const NotchTexts& texts, AnswerWriter& answer)
 
 void AnswerNotch(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
-    RefuseUnknownFields(request, TaskFields);
+    RefuseUnknownFields(request, NotchTaskFields);
     NotchSession notch;
     notch.Years = OpeningNotchYears(EditionOf(request));
     CollectingUser user;
     if (const JsonValue* const entry = FindMember(request, "notch")) {
-        ReadFields(*entry, FieldPath("notch"), notch, user);
+        ReadNotchFields(*entry, FieldPath("notch"), notch, user);
     }
     const bool isDone = CalculateNotch(notch, user) == Outcome::Done;
     answer.BeginObject();

@@ -29,8 +29,8 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> ReadFields{"task", "id", "edition", "kind", "path"};
-constexpr std::array<std::string_view, 6> WriteFields{"task", "id", "edition", "kind", "path", "fields"};
+constexpr std::array<std::string_view, 5> ReadTaskFields{"task", "id", "edition", "kind", "path"};
+constexpr std::array<std::string_view, 6> WriteTaskFields{"task", "id", "edition", "kind", "path", "fields"};
 constexpr std::string_view TagField = "RecordTag";
 
 /// A kind of record file: its layout, the tag it is written with, and what loading it tells.
@@ -248,7 +248,7 @@ PackedRecord RecordOf(const JsonValue& request, const RecordKind& kind)
 
 void AnswerReadRecord(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
-    RefuseUnknownFields(request, ReadFields);
+    RefuseUnknownFields(request, ReadTaskFields);
     const RecordKind& kind = KindOf(request);
     const std::string path = PathOf(request);
     Session session;
@@ -273,7 +273,7 @@ void AnswerReadRecord(const JsonValue& request, const JsonValue* id, AnswerWrite
 
 void AnswerWriteRecord(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
-    RefuseUnknownFields(request, WriteFields);
+    RefuseUnknownFields(request, WriteTaskFields);
     const RecordKind& kind = KindOf(request);
     const std::string path = PathOf(request);
     const PackedRecord record = RecordOf(request, kind);

@@ -10,7 +10,7 @@ namespace kordavan {
 
 namespace {
 
-using StateField = FloatField<SteelTestState>;
+using StateField = FloatMember<SteelTestState>;
 
 constexpr std::array LoadFields{
     StateField{"SelfWeight", &SteelTestState::SelfWeight},

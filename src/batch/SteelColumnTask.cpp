@@ -14,7 +14,7 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> RequestFields{"task", "id", "edition", "column", "size"};
+constexpr std::array<std::string_view, 5> SteelColumnTaskFields{"task", "id", "edition", "column", "size"};
 
 /// The boxes of a size.
 struct SizeEntry {
@@ -78,7 +78,7 @@ void WriteTest(const SteelColumnTest& test, AnswerWriter& answer)
 
 void AnswerSteelColumn(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
-    RefuseUnknownFields(request, RequestFields);
+    RefuseUnknownFields(request, SteelColumnTaskFields);
     const Edition edition = EditionOf(request);
     ColumnSession columns;
     if (const JsonValue* const column = FindMember(request, "column")) {

@@ -1,6 +1,5 @@
 #include "batch/StudTask.h"
 
-#include <algorithm>
 #include <array>
 #include <limits>
 #include <optional>
@@ -11,6 +10,7 @@
 #include "batch/AnswerOutcome.h"
 #include "batch/BeamRun.h"
 #include "batch/CollectingUser.h"
+#include "batch/FieldTable.h"
 #include "batch/FloatFields.h"
 #include "columns/StudColumn.h"
 #include "columns/StudCriteria.h"
@@ -20,7 +20,7 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> TaskFields{"task", "id", "edition", "stud"};
+constexpr std::array<std::string_view, 4> StudTaskFields{"task", "id", "edition", "stud"};
 
 using WindTexts = std::array<std::string, WindLoadCount>;
 
@@ -29,23 +29,23 @@ struct WindText {
     std::size_t Load;
 };
 
-struct ListPosition {
+struct StudListPosition {
     int StudEntry::*Position;
     int Last;
 };
 
-using Target = std::variant<std::string StudEntry::*, bool StudEntry::*, ListPosition, WindText>;
+using StudTarget = std::variant<std::string StudEntry::*, bool StudEntry::*, StudListPosition, WindText>;
 
 struct StudField {
     std::string_view Name;
-    Target Into;
+    StudTarget Into;
 };
 
-constexpr std::array Fields{
+constexpr std::array StudFields{
     StudField{"WindStudHt", &StudEntry::WindStudHt},
     StudField{"WindStudSpacing", &StudEntry::WindStudSpacing},
-    StudField{"BreadthCombo", ListPosition{&StudEntry::BreadthCombo, StudBreadths.size() - 1}},
-    StudField{"DepthCombo", ListPosition{&StudEntry::DepthCombo, StudDepths.size() - 1}},
+    StudField{"BreadthCombo", StudListPosition{&StudEntry::BreadthCombo, StudBreadths.size() - 1}},
+    StudField{"DepthCombo", StudListPosition{&StudEntry::DepthCombo, StudDepths.size() - 1}},
     StudField{"WindStudCombo", &StudEntry::WindStudCombo},
     StudField{"WindStudFb", &StudEntry::WindStudFb},
     StudField{"WindStudFc", &StudEntry::WindStudFc},
@@ -67,31 +67,27 @@ constexpr std::array Fields{
     StudField{"RepIBCCheck", &StudEntry::RepIBCCheck},
 };
 
-struct FieldReader {
+struct StudFieldReader {
     const JsonValue& Value;
     const FieldPath& Path;
     StudEntry& Entry;
 
     void operator()(std::string StudEntry::*text) const { Entry.*text = EntryText(Value, Path); }
     void operator()(bool StudEntry::*flag) const { Entry.*flag = FlagOf(Value, Path); }
-    void operator()(const ListPosition& list) const
+    void operator()(const StudListPosition& list) const
     {
         Entry.*list.Position = PositionOf(Value, list.Last, Path);
     }
     void operator()(const WindText& wind) const { (Entry.*wind.Texts)[wind.Load] = EntryText(Value, Path); }
 };
 
-void ReadFields(const JsonValue& stud, const FieldPath& path, StudEntry& entry)
+void ReadStudFields(const JsonValue& stud, const FieldPath& path, StudEntry& entry)
 {
     for (const JsonValue::Member& json : ObjectOf(stud, path).GetObject()) {
         const std::string_view name = NameOf(json);
         const FieldPath fieldPath = path.Field(name);
-        const auto* const field = std::find_if(Fields.begin(), Fields.end(),
-                                               [name](const StudField& row) { return row.Name == name; });
-        if (field == Fields.end()) {
-            fieldPath.Fail("no such field");
-        }
-        std::visit(FieldReader{json.value, fieldPath, entry}, field->Into);
+        std::visit(StudFieldReader{json.value, fieldPath, entry},
+                   FieldNamed(StudFields, name, fieldPath, "no such field").Into);
     }
 }
 
@@ -116,29 +112,29 @@ StudEntry ReadStud(const JsonValue& request, Edition edition)
 {
     StudEntry entry;
     if (const JsonValue* const stud = FindMember(request, "stud")) {
-        ReadFields(*stud, FieldPath("stud"), entry);
+        ReadStudFields(*stud, FieldPath("stud"), entry);
         FillBaseValues(*stud, edition, entry);
     }
     return entry;
 }
 
-using ResultField = FloatField<StudResult>;
+using StudResultField = FloatMember<StudResult>;
 
 constexpr std::array FieldsToInteraction{
-    ResultField{"P", &StudResult::P},
-    ResultField{"MaxMoment", &StudResult::MaxMoment},
-    ResultField{"MaxMomentAtFt", &StudResult::MaxMomentAtFt},
-    ResultField{"R1", &StudResult::R1},
-    ResultField{"CFb", &StudResult::CFb},
-    ResultField{"CFc", &StudResult::CFc},
-    ResultField{"FbPrime", &StudResult::FbPrime},
-    ResultField{"FcE", &StudResult::FcE},
-    ResultField{"FcStar", &StudResult::FcStar},
-    ResultField{"Cp", &StudResult::Cp},
-    ResultField{"AllowableAxial", &StudResult::AllowableAxial},
-    ResultField{"FcActual", &StudResult::FcActual},
-    ResultField{"FcPrime", &StudResult::FcPrime},
-    ResultField{"FbActual", &StudResult::FbActual},
+    StudResultField{"P", &StudResult::P},
+    StudResultField{"MaxMoment", &StudResult::MaxMoment},
+    StudResultField{"MaxMomentAtFt", &StudResult::MaxMomentAtFt},
+    StudResultField{"R1", &StudResult::R1},
+    StudResultField{"CFb", &StudResult::CFb},
+    StudResultField{"CFc", &StudResult::CFc},
+    StudResultField{"FbPrime", &StudResult::FbPrime},
+    StudResultField{"FcE", &StudResult::FcE},
+    StudResultField{"FcStar", &StudResult::FcStar},
+    StudResultField{"Cp", &StudResult::Cp},
+    StudResultField{"AllowableAxial", &StudResult::AllowableAxial},
+    StudResultField{"FcActual", &StudResult::FcActual},
+    StudResultField{"FcPrime", &StudResult::FcPrime},
+    StudResultField{"FbActual", &StudResult::FbActual},
 };
 
 void WriteResult(const StudResult& result, AnswerWriter& answer)
@@ -157,7 +153,7 @@ void WriteResult(const StudResult& result, AnswerWriter& answer)
 
 void AnswerStud(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
-    RefuseUnknownFields(request, TaskFields);
+    RefuseUnknownFields(request, StudTaskFields);
     const Edition edition = EditionOf(request);
     StudEntry entry = ReadStud(request, edition);
     CollectingUser user;

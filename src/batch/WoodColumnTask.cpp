@@ -16,21 +16,21 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> RequestFields{"task", "id", "edition", "column", "size"};
+constexpr std::array<std::string_view, 5> ColumnTaskFields{"task", "id", "edition", "column", "size"};
 
-using FactorField = FloatField<ColumnFactors>;
-using ResultField = FloatField<ColumnResult>;
+using ColumnFactorField = FloatMember<ColumnFactors>;
+using ColumnResultField = FloatMember<ColumnResult>;
 
 constexpr std::array FactorFields{
-    FactorField{"CF", &ColumnFactors::CF},   FactorField{"CmFc", &ColumnFactors::CmFc},
-    FactorField{"CmE", &ColumnFactors::CmE}, FactorField{"CiFc", &ColumnFactors::CiFc},
-    FactorField{"CiE", &ColumnFactors::CiE}, FactorField{"Kf", &ColumnFactors::Kf},
+    ColumnFactorField{"CF", &ColumnFactors::CF},   ColumnFactorField{"CmFc", &ColumnFactors::CmFc},
+    ColumnFactorField{"CmE", &ColumnFactors::CmE}, ColumnFactorField{"CiFc", &ColumnFactors::CiFc},
+    ColumnFactorField{"CiE", &ColumnFactors::CiE}, ColumnFactorField{"Kf", &ColumnFactors::Kf},
 };
 
 constexpr std::array StabilityFields{
-    ResultField{"EPrime", &ColumnResult::EPrime}, ResultField{"FcStar", &ColumnResult::FcStar},
-    ResultField{"FcE", &ColumnResult::FcE},       ResultField{"Cp1", &ColumnResult::Cp1},
-    ResultField{"Cp2", &ColumnResult::Cp2},
+    ColumnResultField{"EPrime", &ColumnResult::EPrime}, ColumnResultField{"FcStar", &ColumnResult::FcStar},
+    ColumnResultField{"FcE", &ColumnResult::FcE},       ColumnResultField{"Cp1", &ColumnResult::Cp1},
+    ColumnResultField{"Cp2", &ColumnResult::Cp2},
 };
 
 struct SizeTexts {
@@ -97,7 +97,7 @@ void WriteGrid(const ColumnGrid& grid, AnswerWriter& answer)
 
 void AnswerColumn(const JsonValue& request, const JsonValue* id, AnswerWriter& answer)
 {
-    RefuseUnknownFields(request, RequestFields);
+    RefuseUnknownFields(request, ColumnTaskFields);
     const Edition edition = EditionOf(request);
     ColumnSession columns;
     if (const JsonValue* const column = FindMember(request, "column")) {

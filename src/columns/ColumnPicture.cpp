@@ -4,13 +4,12 @@
 #include <string_view>
 
 #include "columns/ColumnTexts.h"
+#include "core/BeamNumbers.h"
 #include "core/NumberText.h"
 
 namespace kordavan {
 
 namespace {
-
-constexpr double InchesPerFoot = 12;
 
 /// The number of a box as far as one can be drawn, or none.
 std::optional<double> ReadPositive(std::string_view text)

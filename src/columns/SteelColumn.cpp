@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "core/BeamNumbers.h"
 #include "core/NumberText.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr double InchesPerFoot = 12;
 constexpr double PoundsPerKip = 1000;
 
 // Four decimals, deliberately: allowable stresses agree with those of old sheets.

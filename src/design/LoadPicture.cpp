@@ -127,7 +127,7 @@ std::string UnbalancedLine(const UnbalancedLoads& unbalanced)
     return unbalanced.Span ? "Live loads of the backspan are out" : std::string{};
 }
 
-std::string FeetText(double feet)
+std::string PlaceText(double feet)
 {
     return FormatNumber(feet, "#0.0#") + " ft";
 }
@@ -139,15 +139,15 @@ std::string DescribeSupport(const LoadPicture& picture)
     }
     switch (picture.Support) {
         case SupportCondition::SimpleSpan:
-            return "Simple span of " + FeetText(picture.Span) + ".";
+            return "Simple span of " + PlaceText(picture.Span) + ".";
         case SupportCondition::Overhanging:
-            return "Span of " + FeetText(picture.Span) + " with an overhang of " +
-                   FeetText(picture.Overhang) + ".";
+            return "Span of " + PlaceText(picture.Span) + " with an overhang of " +
+                   PlaceText(picture.Overhang) + ".";
         case SupportCondition::HipValley:
-            return "Hip or valley of " + FeetText(picture.Span) + ", the load rising from R1 to R2.";
+            return "Hip or valley of " + PlaceText(picture.Span) + ", the load rising from R1 to R2.";
         case SupportCondition::MultipleSpans:
             return (picture.SpanCount == 3 ? "Three" : "Two") + std::string(" equal spans of ") +
-                   FeetText(picture.Span) + ".";
+                   PlaceText(picture.Span) + ".";
     }
     return {};
 }
@@ -200,8 +200,8 @@ std::string DescribePlace(const PictureLoad& load)
         return ", its place is not entered";
     }
     const std::string place = load.Kind == PictureLoadKind::Point
-                                  ? " at " + FeetText(load.Begin)
-                                  : " from " + FeetText(load.Begin) + " to " + FeetText(load.End);
+                                  ? " at " + PlaceText(load.Begin)
+                                  : " from " + PlaceText(load.Begin) + " to " + PlaceText(load.End);
     return place + (load.OnOverhang ? ", on the overhang" : "");
 }
 

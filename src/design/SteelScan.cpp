@@ -8,9 +8,9 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view MaximumShearError = "Max V Error, Steel form22";
+constexpr std::string_view ScannedShearError = "Max V Error, Steel form22";
 
-std::string PercentText(double used, double allowed)
+std::string UsedText(double used, double allowed)
 {
     constexpr double whole = 100;
     return FormatNumber(Single(used / allowed * whole), "#0") + "%";
@@ -31,8 +31,8 @@ SteelSlot SlotOf(const SteelCriteria& criteria, const SteelShape& shape, const B
             .StlDepLab = shape.DepthText,
             .StlWidLab = shape.BreadthText,
             .UBLlab = LimitText(criteria.Family, regime),
-            .StlSecPerct = PercentText(regime.RequiredS, shape.SectionModulus),
-            .StlShearPerct = PercentText(shear.ShearStressActual, criteria.Allowable.FvSteel)};
+            .StlSecPerct = UsedText(regime.RequiredS, shape.SectionModulus),
+            .StlShearPerct = UsedText(shear.ShearStressActual, criteria.Allowable.FvSteel)};
 }
 
 }  // namespace
@@ -54,7 +54,7 @@ Outcome ScanSteelCandidates(const SteelBeam& steel, UserPort& user, std::vector<
         const ShearResult shear = ComputeSteelShear(steel, section, regime, loads);
         if (shear.Fault == ShearFault::NoMaximum) {
             slots.clear();
-            return Refuse(user, Refusal(MaximumShearError));
+            return Refuse(user, Refusal(ScannedShearError));
         }
         if (!(shear.ShearStressActual < criteria.Allowable.FvSteel) ||
             !MeetsDeflectionLimits(ComputeDeflection(steel.Beam, section, SteelE, steel.Applied, loads))) {

@@ -36,7 +36,7 @@ constexpr std::string_view BeyondLuStepping =
     "Proposed Unbraced length for Lc or Lu is too large.  Please select another size or adjust the "
     "unbalanced length.  Kordavan does not compute the special anaylsis required for members with an "
     "unbalanced length greater than Lu.";
-constexpr std::string_view MaximumShearError = "Max V Error, Steel form22 OK button";
+constexpr std::string_view PickedShearError = "Max V Error, Steel form22 OK button";
 
 /// The box that holds the size; there is none to go to on the report.
 Message SizeRefusal(SteelTestMode mode, std::string_view fromSelection, std::string_view fromStepping)
@@ -156,7 +156,7 @@ SteelTestEnd TestNamedShape(Session& session, std::string_view name, SteelTestMo
     }
     test.Shear = ComputeSteelShear(steel, test.Section, test.Regime, test.Loads);
     if (test.Shear.Fault == ShearFault::NoMaximum) {
-        user.Tell(Refusal(MaximumShearError));
+        user.Tell(Refusal(PickedShearError));
         return SteelTestEnd::BackToCriteria;
     }
     test.Deflection = ComputeDeflection(steel.Beam, test.Section, SteelE, steel.Applied, test.Loads);

@@ -23,7 +23,7 @@ constexpr std::string_view RepetitiveNote =
     "Repetitive Use check box on the Criteria Form or select a 4x or 2x combination beam breadth.";
 constexpr std::string_view DatabaseError = "Database search error in calc module";
 constexpr std::string_view ZeroValueError = "Calc module, zero value error!";
-constexpr std::string_view MaximumShearError = "Max V Error, LSMR OVERHANG MAX V";
+constexpr std::string_view OverhangShearError = "Max V Error, LSMR OVERHANG MAX V";
 constexpr std::string_view ReducedShearError = "Error at LSMR, OH MAX Reduction";
 
 /// What stays the same for the candidate and its next smaller size.
@@ -120,7 +120,7 @@ Outcome LoadSize(const TestCase& test, NetSize size, UserPort& user, SizeTest& r
                                 {.FbPrime = result.Adjusted.FbAdj, .FvPrime = result.Adjusted.FvAdj},
                                 test.Applied, result.Loads);
     if (result.Shear.Fault == ShearFault::NoMaximum) {
-        return Refuse(user, Refusal(MaximumShearError));
+        return Refuse(user, Refusal(OverhangShearError));
     }
     if (result.Shear.Fault == ShearFault::NoReducedMaximum) {
         user.Tell(Alert(ReducedShearError));

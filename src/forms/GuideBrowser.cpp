@@ -17,7 +17,9 @@ namespace {
 
 constexpr double LinePercent = 125;
 constexpr double ZoomStep = 1.1;
+constexpr double LeastPictureScale = 0.1;
 constexpr int MostZoomSteps = 12;
+constexpr int IsSetOut = 1;  // state of the first block of a page
 
 QString ResourceOf(const QString& link)
 {
@@ -142,12 +144,11 @@ QString GuideBrowser::AnchorOf(const QString& heading)
     return anchor;
 }
 
-/// A link within the page does not load it again.
+/// A link within the page does not always load it again.
 void GuideBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
 {
-    const bool isSamePage = source().adjusted(QUrl::RemoveFragment) == url.adjusted(QUrl::RemoveFragment);
     QTextBrowser::doSetSource(url, type);
-    if (!isSamePage) {
+    if (document()->firstBlock().userState() != IsSetOut) {
         SetOut();
     }
     if (url.hasFragment()) {
@@ -163,9 +164,10 @@ void GuideBrowser::SetOut()
     SpaceLines(*document(), lineHeight);
     RuleTables(*document(), lineHeight, palette().color(QPalette::Mid));
     FitPictures();
-    moveCursor(QTextCursor::Start);
+    document()->firstBlock().setUserState(IsSetOut);
 }
 
+/// Pictures are scaled here, as the page itself would scale them coarsely.
 void GuideBrowser::FitPictures()
 {
     const double room = viewport()->width() - 2 * document()->documentMargin();
@@ -173,13 +175,18 @@ void GuideBrowser::FitPictures()
     ForFragments(
         *document(), [](const QTextCharFormat& format) { return format.isImageFormat(); },
         [&](QTextCursor& cursor, const QTextCharFormat& format) {
-            QTextImageFormat image = format.toImageFormat();
-            const QVariant picture = document()->resource(QTextDocument::ImageResource, QUrl(image.name()));
-            const QSizeF natural = picture.value<QImage>().size();
-            const QSizeF size = natural * std::min(zoom, room / std::max(natural.width(), 1.0));
-            image.setWidth(size.width());
-            image.setHeight(size.height());
-            cursor.setCharFormat(image);
+            QTextImageFormat place = format.toImageFormat();
+            QImage picture(QStringLiteral(":/guide/") + place.name());
+            const double scale = std::min(zoom, room / std::max(picture.width(), 1));
+            const QSizeF size = picture.size() * std::max(scale, LeastPictureScale);
+            picture = picture.convertToFormat(QImage::Format_RGB32)
+                          .scaled((size * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
+                                  Qt::SmoothTransformation);
+            picture.setDevicePixelRatio(devicePixelRatioF());
+            document()->addResource(QTextDocument::ImageResource, QUrl(place.name()), picture);
+            place.setWidth(size.width());
+            place.setHeight(size.height());
+            cursor.setCharFormat(place);
         });
 }
 
@@ -199,7 +206,6 @@ void GuideBrowser::changeEvent(QEvent* event)
         const double part =
             verticalScrollBar()->value() / std::max(1.0, 1.0 * verticalScrollBar()->maximum());
         reload();
-        SetOut();
         verticalScrollBar()->setValue(static_cast<int>(part * verticalScrollBar()->maximum()));
     }
 }

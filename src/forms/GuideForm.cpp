@@ -1,5 +1,6 @@
 #include "forms/GuideForm.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -7,8 +8,8 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QSplitter>
-#include <QTextBlock>
 #include <QVBoxLayout>
 
 #include "forms/GuideBrowser.h"
@@ -29,7 +30,7 @@ QListWidgetItem* MakeContentsItem(const GuideEntry& entry)
         QFont bold = item->font();
         bold.setBold(true);
         item->setFont(bold);
-        item->setFlags(Qt::NoItemFlags);
+        item->setFlags(Qt::NoItemFlags);  // the arrow keys pass it by
     }
     return item;
 }
@@ -71,9 +72,27 @@ void GuideForm::Open(GuidePage page, QWidget& from)
 
 QSize GuideForm::sizeHint() const
 {
-    constexpr int digitsWide = 132;
-    constexpr int linesHigh = 44;
+    constexpr int digitsWide = 150;
+    constexpr int linesHigh = 52;
     return {DigitsWidth(*this, digitsWide), linesHigh * fontMetrics().height()};
+}
+
+void GuideForm::changeEvent(QEvent* event)
+{
+    BesideForm::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        ColorHeadings();
+    }
+}
+
+/// A heading is no page, but is not to look like one that cannot be opened.
+void GuideForm::ColorHeadings()
+{
+    for (int row = 0; row < contents->count(); ++row) {
+        if (contents->item(row)->flags() == Qt::NoItemFlags) {
+            contents->item(row)->setForeground(palette().text());
+        }
+    }
 }
 
 QAbstractButton* GuideForm::DefaultCommand()
@@ -96,6 +115,7 @@ void GuideForm::MakeContents()
     for (const GuideEntry& entry : ReadGuideContents()) {
         contents->addItem(MakeContentsItem(entry));
     }
+    ColorHeadings();
     contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     constexpr int marginDigits = 3;
     contents->setMinimumWidth(contents->sizeHintForColumn(0) +

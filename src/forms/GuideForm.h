@@ -28,9 +28,11 @@ public:
 protected:
     QAbstractButton* DefaultCommand() override;
     void CloseAsked() override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void MakeContents();
+    void ColorHeadings();
     void MakeFoot();
     void MakeMenus();
     QPushButton* AddStep(const ControlText& text, std::string_view caption, void (GuideForm::*run)());

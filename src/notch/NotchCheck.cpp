@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/BeamNumbers.h"
 #include "notch/NotchYears.h"
 
 namespace kordavan {
@@ -11,7 +12,6 @@ namespace {
 
 constexpr double TwoThirds = 0.666667;
 constexpr double Percent = 100;
-constexpr double InchesPerFoot = 12;
 constexpr double RadiansPerDegree = NotchPi / 180;
 
 constexpr std::string_view NotComputed = "Error: Notch requirements could not be calculated.";

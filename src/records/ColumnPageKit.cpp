@@ -1,5 +1,7 @@
 #include "records/ColumnPageKit.h"
 
+#include "core/NumberText.h"
+
 namespace kordavan {
 
 namespace {
@@ -24,6 +26,22 @@ void WriteRow(PageWriter& writer, const PageFigures& row, double left, PageStyle
 }
 
 }  // namespace
+
+PageCell Figure(double value, std::string_view format)
+{
+    return {0, FormatNumber(value, format)};
+}
+
+void WriteRecordHeading(PageWriter& writer, const RecordHeading& heading, std::string_view idCaption)
+{
+    WritePageHeading(writer, {.Heading1 = {0, heading.Heading1},
+                              .Heading2 = {0, heading.Heading2},
+                              .Project = {0, heading.Project, "Project:"},
+                              .Id = {0, heading.BeamId, idCaption},
+                              .Description = {0, heading.Description, "Description:"},
+                              .Date = {0, heading.Date, "Date:"},
+                              .Initials = {0, heading.Initials, "Prepared by:"}});
+}
 
 void WriteColumnTitle(PageWriter& writer, const PageCell& member, const PageCell& attributes)
 {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "design/DataSheet.h"
 #include "records/PageWriter.h"
 
 namespace kordavan {
@@ -42,6 +43,13 @@ inline constexpr double FirstFigureLeft = 124;
 inline constexpr double SecondFigureLeft = 178;
 inline constexpr double FirstFigureWidth = 50;
 inline constexpr double SecondFigureWidth = 58;
+
+/// A figure of no cell.
+PageCell Figure(double value, std::string_view format);
+
+/// The page's head for a record that has no sheet of cells.
+/// @param idCaption  what is identified, such as "Column ID:"
+void WriteRecordHeading(PageWriter& writer, const RecordHeading& heading, std::string_view idCaption);
 
 /// Heads the page's tables with what the column is and what it was designed by.
 void WriteColumnTitle(PageWriter& writer, const PageCell& member, const PageCell& attributes);

@@ -22,8 +22,9 @@ constexpr std::string_view WoodLoaded =
 constexpr std::string_view SteelLoaded =
     "The steel column data you have loaded is text and the values are not active.  You may print the report "
     "as is, but to edit values you need to re-enter the column criteria in form 1.";
-constexpr std::string_view NotesQuestion = "Would you like to save your notes as part of this column record?";
-constexpr std::string_view SavedAs = "The Column Record has been saved as\n    ";
+constexpr std::string_view ColumnNotesQuestion =
+    "Would you like to save your notes as part of this column record?";
+constexpr std::string_view ColumnSavedAs = "The Column Record has been saved as\n    ";
 
 /// What the two kinds have each of their own.
 struct ColumnRecordFacts {
@@ -117,7 +118,7 @@ void TellColumnRecordLoaded(ColumnRecordKind kind, UserPort& user)
 
 bool AskToSaveColumnNotes(UserPort& user)
 {
-    return user.Ask(Question(NotesQuestion));
+    return user.Ask(Question(ColumnNotesQuestion));
 }
 
 Outcome SaveColumnRecord(const ColumnSheet& sheet, ColumnRecordKind kind, bool withNotes,
@@ -127,7 +128,7 @@ Outcome SaveColumnRecord(const ColumnSheet& sheet, ColumnRecordKind kind, bool w
         !fault.empty()) {
         return RefuseSaving(path, fault, user);
     }
-    user.Tell(Alert(std::string(SavedAs) + path));
+    user.Tell(Alert(std::string(ColumnSavedAs) + path));
     return Outcome::Done;
 }
 

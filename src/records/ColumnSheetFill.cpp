@@ -8,7 +8,7 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::array HeadCells{
+constexpr std::array ColumnHeadCells{
     HeadCell{1, "", &RecordHeading::Heading1},   HeadCell{2, "", &RecordHeading::Heading2},
     HeadCell{3, "", &RecordHeading::Project},    HeadCell{4, "", &RecordHeading::Description},
     HeadCell{5, "", &RecordHeading::BeamId},     HeadCell{6, "Prepared by: ", &RecordHeading::Initials},
@@ -19,12 +19,12 @@ constexpr std::array HeadCells{
 
 void HeadColumnSheet(const RecordHeading& heading, ColumnSheet& sheet)
 {
-    WriteHeadCells(HeadCells, heading, sheet.Labels);
+    WriteHeadCells(ColumnHeadCells, heading, sheet.Labels);
 }
 
 RecordHeading HeadingOnColumnSheet(const ColumnSheet& sheet)
 {
-    return ReadHeadCells(HeadCells, sheet.Labels);
+    return ReadHeadCells(ColumnHeadCells, sheet.Labels);
 }
 
 }  // namespace kordavan

@@ -6,6 +6,7 @@
 #include "core/BeamNumbers.h"
 #include "records/CellText.h"
 #include "records/ColumnSheetFill.h"
+#include "records/FigureFormats.h"
 
 namespace kordavan {
 
@@ -73,14 +74,13 @@ void FillReport(const SteelColumnTest& test, ColumnSheet& sheet)
 ColumnSheet FillSteelColumnSheet(const SteelColumnTest& test, const RecordHeading& heading,
                                  const ReportNoteLines& notes)
 {
-    constexpr std::string_view lengthFormat = "#,##0.0##";
     ColumnSheet sheet;
     HeadColumnSheet(heading, sheet);
     sheet[10] = test.Size + " steel column, " + test.TypeAndGrade;
     sheet[12] = std::string(AttributeText) + (IsSteelTube(test.Result.Row) ? "tube" : "pipe");
     sheet[59] = SelfWeightText;
-    sheet[17] = CellNumber(test.Problem.ColumnHeight, lengthFormat);
-    sheet[19] = CellNumber(test.Problem.UnbracedLength / InchesPerFoot, lengthFormat);
+    sheet[17] = CellNumber(test.Problem.ColumnHeight, LengthFormat);
+    sheet[19] = CellNumber(test.Problem.UnbracedLength / InchesPerFoot, LengthFormat);
     FillReport(test, sheet);
     sheet.ReportNotes = notes;
     return sheet;

@@ -7,13 +7,12 @@
 #include "core/NumberText.h"
 #include "records/CellText.h"
 #include "records/ColumnSheetFill.h"
+#include "records/FigureFormats.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr std::string_view LengthFormat = "#,##0.0##";
-constexpr std::string_view FactorFormat = "0.00#";
 constexpr std::string_view SlendernessFormat = "#,##0.00";
 constexpr std::string_view StabilityFormat = "0.000";
 constexpr std::string_view NailPlies =

@@ -30,7 +30,7 @@ constexpr std::string_view UnfitE =
 constexpr std::string_view UnfitFc =
     "A Custom Post Value file cannot hold this Fc: it is no whole number, or too large.  Please change it and "
     "save again.";
-constexpr std::string_view Saved = "Custom post values saved to disk as ";
+constexpr std::string_view PostSaved = "Custom post values saved to disk as ";
 constexpr std::string_view NotCustomPost =
     "Cannot load the selected values. Please verify you are loading Custom Wood Post values with the *.CPV "
     "extension";
@@ -115,7 +115,7 @@ Outcome SaveCustomPost(const ColumnEntry& entry, const std::string& path, UserPo
     if (!fault.empty()) {
         return RefuseSaving(path, fault, user);
     }
-    user.Tell(Marked(Alert(std::string(Saved) + path), MessageIcon::Information));
+    user.Tell(Marked(Alert(std::string(PostSaved) + path), MessageIcon::Information));
     return Outcome::Done;
 }
 

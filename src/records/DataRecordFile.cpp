@@ -20,7 +20,7 @@ constexpr std::string_view NotDataRecord =
     "Custom Value files have an extension of *.VAL\n"
     "Criteria files have an extension of *.CRI\n"
     "Column Data Records have an extension of *.COL";
-constexpr std::string_view SavedAs = "The Data Record has been saved as\n    ";
+constexpr std::string_view DataRecordSavedAs = "The Data Record has been saved as\n    ";
 constexpr std::string_view HowToReload =
     "\nPlease Note: To reload this saved Data Record file you MUST have the Data Record Page open. You may "
     "calculate a fictious beam, if necessary, to get to the data record page. Select FILE from the menu bar, "
@@ -128,7 +128,7 @@ Outcome SaveDataRecord(const DataSheet& sheet, const RecordHeading& heading, con
         !fault.empty()) {
         return RefuseSaving(path, fault, user);
     }
-    user.Tell(Alert(std::string(SavedAs) + path + std::string(HowToReload)));
+    user.Tell(Alert(std::string(DataRecordSavedAs) + path + std::string(HowToReload)));
     return Outcome::Done;
 }
 

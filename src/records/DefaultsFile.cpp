@@ -25,7 +25,7 @@ constexpr std::string_view AnotherKind =
 constexpr std::string_view OtherFont =
     "Please Note: Arial is the recommended printout font. You have selected another font that may or may not "
     "display well on your printouts.";
-constexpr std::string_view Saved = "Your default settings were recorded and are ready for use.";
+constexpr std::string_view DefaultsSaved = "Your default settings were recorded and are ready for use.";
 constexpr std::string_view LiveFault = "Please enter a valid numeric value for the Live Load PSF setting";
 constexpr std::string_view TotalFault = "Please enter a valid numeric value for the Total Load PSF setting";
 
@@ -232,7 +232,7 @@ Outcome SaveDefaults(Session& session, const DefaultSettings& settings, const st
     if (wasSaved) {
         session.KeptProblem = TypedEntries(session);
     }
-    user.Tell(Alert(Saved));
+    user.Tell(Alert(DefaultsSaved));
     return Outcome::Done;
 }
 

@@ -7,28 +7,22 @@
 #include "notch/NotchSession.h"
 #include "notch/NotchTexts.h"
 #include "records/ColumnPageKit.h"
+#include "records/FigureFormats.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr std::string_view StressFormat = "#,##0.0";
-constexpr std::string_view SizeFormat = "#,##0.0##";
-constexpr std::string_view LoadFormat = "#,##0";
+constexpr std::string_view ReactionFormat = "#,##0";
 constexpr std::string_view NotComputed = "Status: not computed";
 constexpr std::string_view MiddleThird = "Tapered notch may not extend into middle third of span.";
 
-PageCell Figure(double value, std::string_view format)
-{
-    return {0, FormatNumber(value, format)};
-}
-
-PageCell Percent(double percent)
+PageCell PercentCell(double percent)
 {
     return {0, FormatNumber(percent, "#,##0.0") + "%"};
 }
 
-PageCell Status(bool fails)
+PageCell NotchVerdictCell(bool fails)
 {
     return {0, std::string(fails ? StatusFail : StatusOk)};
 }
@@ -42,10 +36,10 @@ std::string_view ListName(std::string_view name)
 
 std::string SizeText(const NotchProblem& problem)
 {
-    const std::string depth = FormatNumber(problem.Depth, SizeFormat);
+    const std::string depth = FormatNumber(problem.Depth, LengthFormat);
     return problem.MemberType == NotchMember::SawnRound
                ? depth + " in. in diameter"
-               : FormatNumber(problem.Breadth, SizeFormat) + " x " + depth + " in.";
+               : FormatNumber(problem.Breadth, LengthFormat) + " x " + depth + " in.";
 }
 
 std::string TitleLine(const NotchRun& run)
@@ -57,7 +51,7 @@ std::string TitleLine(const NotchRun& run)
     return title += NotchTypeNames[static_cast<std::size_t>(run.Problem.Notch)];
 }
 
-std::string AttributeLine(const NotchRun& run)
+std::string NotchAttributes(const NotchRun& run)
 {
     const NotchEntry& entry = run.Entry;
     const std::string year = "NDS " + std::to_string(run.Problem.NdsYear);
@@ -102,18 +96,12 @@ public:
           options(pageOptions),
           writer(heading.Project + "  " + heading.BeamId, {}, pageOptions)
     {
-        WritePageHeading(writer, {.Heading1 = {0, heading.Heading1},
-                                  .Heading2 = {0, heading.Heading2},
-                                  .Project = {0, heading.Project, "Project:"},
-                                  .Id = {0, heading.BeamId, "Member ID:"},
-                                  .Description = {0, heading.Description, "Description:"},
-                                  .Date = {0, heading.Date, "Date:"},
-                                  .Initials = {0, heading.Initials, "Prepared by:"}});
+        WriteRecordHeading(writer, heading, "Member ID:");
     }
 
     RecordPage Laid(const ReportNoteLines& notes)
     {
-        WriteColumnTitle(writer, {0, TitleLine(run)}, {0, AttributeLine(run)});
+        WriteColumnTitle(writer, {0, TitleLine(run)}, {0, NotchAttributes(run)});
         WriteStatus();
         const double tables = writer.Top();
         WriteNotchChecks();
@@ -157,13 +145,15 @@ private:
     {
         const NotchResult& result = run.Result;
         if (result.ResultIsV) {
-            return {"Reaction Vr', V, lb", Figure(*result.AllowableV, LoadFormat),
-                    Figure(run.Problem.MaxV, LoadFormat), Status(result.Verdict == NotchVerdict::RatioFails),
-                    Percent(*result.RatioPercent)};
+            return {"Reaction Vr', V, lb", Figure(*result.AllowableV, ReactionFormat),
+                    Figure(run.Problem.MaxV, ReactionFormat),
+                    NotchVerdictCell(result.Verdict == NotchVerdict::RatioFails),
+                    PercentCell(*result.RatioPercent)};
         }
         return {"Shear stress Fv', fv, psi", Figure(result.AdjustedFv, StressFormat),
-                Figure(*result.CriticalFv, StressFormat), Status(result.Verdict == NotchVerdict::RatioFails),
-                Percent(*result.RatioPercent)};
+                Figure(*result.CriticalFv, StressFormat),
+                NotchVerdictCell(result.Verdict == NotchVerdict::RatioFails),
+                PercentCell(*result.RatioPercent)};
     }
 
     /// Without a rule there is nothing that the depth could pass or fail.
@@ -172,10 +162,10 @@ private:
         constexpr double percent = 100;
         const double minimum = run.Result.MinimumDn;
         const double depth = run.Problem.DepthAtNotch;
-        PageCheck check{"Depth at notch dn, in.", Figure(minimum, SizeFormat), Figure(depth, SizeFormat)};
+        PageCheck check{"Depth at notch dn, in.", Figure(minimum, LengthFormat), Figure(depth, LengthFormat)};
         if (run.Result.IsComputed()) {
-            check.Status = Status(depth < minimum);
-            check.Ratio = Percent(percent * minimum / depth);
+            check.Status = NotchVerdictCell(depth < minimum);
+            check.Ratio = PercentCell(percent * minimum / depth);
         }
         return check;
     }

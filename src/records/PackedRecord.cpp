@@ -11,7 +11,7 @@ namespace kordavan {
 namespace {
 
 constexpr unsigned BitsOfByte = 8;
-constexpr char Blank = ' ';
+constexpr char Padding = ' ';
 
 template <typename Unsigned>
 Unsigned ReadLittleEndian(std::string_view bytes)
@@ -72,7 +72,7 @@ float PackedRecord::Float(std::string_view name, std::size_t index) const
 std::string PackedRecord::Text(std::string_view name, std::size_t index) const
 {
     std::string_view text = std::string_view(bytes).substr(Place(name, index), Field(name).Length);
-    text = text.substr(0, text.find_last_not_of(Blank) + 1);
+    text = text.substr(0, text.find_last_not_of(Padding) + 1);
     return TextOfAnsi(text);
 }
 
@@ -97,7 +97,7 @@ void PackedRecord::SetFloat(std::string_view name, float value, std::size_t inde
 void PackedRecord::SetText(std::string_view name, std::string_view text, std::size_t index)
 {
     std::string ansi = AnsiOfText(text);
-    ansi.resize(Field(name).Length, Blank);
+    ansi.resize(Field(name).Length, Padding);
     bytes.replace(Place(name, index), ansi.size(), ansi);
 }
 
@@ -140,7 +140,7 @@ void PackedRecord::FillWithBlanks(const RecordField& field)
 {
     const std::size_t size = field.End() - field.Offset;
     if (field.Type == FieldType::Text) {
-        bytes.replace(field.Offset, size, size, Blank);
+        bytes.replace(field.Offset, size, size, Padding);
     }
     if (field.Type == FieldType::Part) {
         Fill(field, {});

@@ -17,10 +17,10 @@ namespace {
 
 constexpr std::string_view UnknownProduct = "Error, not able to load values. form2.combo1";
 constexpr std::string_view NoName = "Please enter the manufacturer's name and grade.";
-constexpr std::string_view UnfitNumber =
+constexpr std::string_view UnfitSclNumber =
     "An SCL value file cannot hold the number in this box: it is too large, or an Fb, Fv or Fc that is no "
     "whole number.  Please change it and save again.";
-constexpr std::string_view Saved = "SCL Custom values have been saved to hard drive.";
+constexpr std::string_view SclSaved = "SCL Custom values have been saved to hard drive.";
 constexpr std::string_view NotSaved = "Error saving your Custom SCL values.";
 
 constexpr std::string_view NameBox = "Text5";
@@ -147,7 +147,7 @@ Outcome FillPart(std::size_t product, const SclValues& values, PackedRecord& par
 {
     for (const NeededValue& needed : NeededValues) {
         if (!SetNumber(values.*needed.Text, needed.Field, part)) {
-            return Refuse(user, Refusal(UnfitNumber, needed.Box.Box));
+            return Refuse(user, Refusal(UnfitSclNumber, needed.Box.Box));
         }
     }
     if (IsCustomScl(product)) {
@@ -219,7 +219,7 @@ Outcome SaveSclValues(const std::string& folder, std::size_t product, const SclV
     if (const std::string fault = ReplaceRecord(path, record.Bytes()); !fault.empty()) {
         return RefuseSavingValues(fault, user);
     }
-    user.Tell(Alert(Saved));
+    user.Tell(Alert(SclSaved));
     return Outcome::Done;
 }
 

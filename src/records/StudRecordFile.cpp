@@ -19,9 +19,9 @@ constexpr std::string_view NotStudColumn =
     "selected the appropriate file.";
 constexpr std::string_view Loaded =
     "The stud column data you have loaded may printed by selecting the Report Button.";
-constexpr std::string_view NotesQuestion =
+constexpr std::string_view StudNotesQuestion =
     "Would you like to save your notes as part of this stud column record?";
-constexpr std::string_view SavedAs = "The Stud Column Record has been saved as\n    ";
+constexpr std::string_view StudSavedAs = "The Stud Column Record has been saved as\n    ";
 
 constexpr std::string_view Checked = "1";
 constexpr std::string_view Unchecked = "0";
@@ -117,7 +117,7 @@ void TellStudRecordLoaded(UserPort& user)
 
 bool AskToSaveStudNotes(UserPort& user)
 {
-    return user.Ask(Question(NotesQuestion));
+    return user.Ask(Question(StudNotesQuestion));
 }
 
 Outcome SaveStudRecord(ColumnSession& columns, const ReportNoteLines& notes, const std::string& path,
@@ -129,7 +129,7 @@ Outcome SaveStudRecord(ColumnSession& columns, const ReportNoteLines& notes, con
         return RefuseSaving(path, fault, user);
     }
     columns.KeptStud = columns.Stud;
-    user.Tell(Alert(std::string(SavedAs) + path));
+    user.Tell(Alert(std::string(StudSavedAs) + path));
     return Outcome::Done;
 }
 

@@ -6,23 +6,16 @@
 #include "core/NumberText.h"
 #include "records/ColumnPageKit.h"
 #include "records/ColumnRecordPage.h"
+#include "records/FigureFormats.h"
 
 namespace kordavan {
 
 namespace {
 
-constexpr std::string_view LengthFormat = "#,##0.0##";
 constexpr std::string_view LoadFormat = "#,##0.0";
-constexpr std::string_view FactorFormat = "0.00#";
-constexpr std::string_view StressFormat = "#,##0.0";
 constexpr std::string_view RatioFormat = "0.000";
 constexpr std::string_view NoInteraction =
     "No interaction: the axial stress fc reaches FcE, so the stud buckles under its axial load alone.";
-
-PageCell Figure(double value, std::string_view format)
-{
-    return {0, FormatNumber(value, format)};
-}
 
 PageCell Percent(double used, double allowed)
 {
@@ -30,7 +23,7 @@ PageCell Percent(double used, double allowed)
     return allowed > 0 ? PageCell{0, FormatNumber(percent * used / allowed, "#,##0.0") + "%"} : PageCell{};
 }
 
-PageCell Status(bool fails)
+PageCell StudVerdict(bool fails)
 {
     return {0, std::string(fails ? StudStatus::Fails : ColumnStatus::Ok)};
 }
@@ -44,7 +37,7 @@ std::string RepetitiveText(const StudTest& test)
     return "repetitive use factor Cr " + FormatNumber(test.Result.Cr, FactorFormat) + std::string(source);
 }
 
-std::string AttributeLine(const StudTest& test)
+std::string StudAttributes(const StudTest& test)
 {
     const std::string edition =
         test.Nds == Edition::None ? std::string{} : "NDS " + std::string(EditionYear(test.Nds)) + ", ";
@@ -61,20 +54,14 @@ public:
           options(pageOptions),
           writer(heading.Project + "  " + heading.BeamId, {}, pageOptions)
     {
-        WritePageHeading(writer, {.Heading1 = {0, heading.Heading1},
-                                  .Heading2 = {0, heading.Heading2},
-                                  .Project = {0, heading.Project, "Project:"},
-                                  .Id = {0, heading.BeamId, "Column ID:"},
-                                  .Description = {0, heading.Description, "Description:"},
-                                  .Date = {0, heading.Date, "Date:"},
-                                  .Initials = {0, heading.Initials, "Prepared by:"}});
+        WriteRecordHeading(writer, heading, "Column ID:");
     }
 
     RecordPage Laid(const ReportNoteLines& notes)
     {
         WriteColumnTitle(
             writer, {0, "Stud " + ReadStudPicture(test.Entry).SizeText + ", " + test.Problem.SpeciesGrade},
-            {0, AttributeLine(test)});
+            {0, StudAttributes(test)});
         WriteStatus();
         const double tables = writer.Top();
         WriteStudChecks();
@@ -117,15 +104,15 @@ private:
         WriteChecks(
             writer,
             {{"Slenderness le/d", Figure(greatestSlenderness, "0"), Figure(result.Slenderness, "#,##0.00"),
-              Status(result.SlendernessOver50), Percent(result.Slenderness, greatestSlenderness)},
+              StudVerdict(result.SlendernessOver50), Percent(result.Slenderness, greatestSlenderness)},
              {"Axial load Pa, P, lb", Figure(result.AllowableAxial, LoadFormat), Figure(result.P, LoadFormat),
-              Status(result.AxialFails), Percent(result.P, result.AllowableAxial)},
+              StudVerdict(result.AxialFails), Percent(result.P, result.AllowableAxial)},
              {"Axial load with bending", Figure(1, "0.0"),
               result.Interaction ? Figure(*result.Interaction, RatioFormat) : PageCell{},
-              Status(result.InteractionFails),
+              StudVerdict(result.InteractionFails),
               result.Interaction ? Percent(*result.Interaction, 1) : PageCell{}},
              {"Stability FbE, fb, psi", Figure(result.FbE, StressFormat),
-              Figure(result.FbActual, StressFormat), Status(result.BendingBuckles),
+              Figure(result.FbActual, StressFormat), StudVerdict(result.BendingBuckles),
               Percent(result.FbActual, result.FbE)}},
             options);
         writer.Rule(ColumnTableWidth);

@@ -26,7 +26,7 @@ ShearResult ShearOf(const BeamNumbers& beam, const SectionProps& section = FootD
     return ComputeShear(beam, section, {.FbPrime = 1000, .FvPrime = 100}, applied, loads);
 }
 
-void ExpectClose(double actual, double expected)
+void ExpectShear(double actual, double expected)
 {
     EXPECT_NEAR(actual, expected, 1e-5 * std::abs(expected) + 1e-4);
 }
@@ -36,11 +36,11 @@ TEST(Shear, UniformLoadWithinTheDepthIsLeftOut)
     BeamNumbers beam = BeamOf(10);
     beam.Loads.UNIF = 100;
     const ShearResult shear = ShearOf(beam);
-    ExpectClose(shear.ShearMax, 500);
-    ExpectClose(shear.ShearReduced, 400);
-    ExpectClose(shear.SectionRequired, 1250 * 12 / 1000.0);
-    ExpectClose(shear.ShearStressActual, 1.5 * 500 / 36);  // not asked to reduce
-    ExpectClose(shear.AreaRequired, 1.5 * 500 / 100);
+    ExpectShear(shear.ShearMax, 500);
+    ExpectShear(shear.ShearReduced, 400);
+    ExpectShear(shear.SectionRequired, 1250 * 12 / 1000.0);
+    ExpectShear(shear.ShearStressActual, 1.5 * 500 / 36);  // not asked to reduce
+    ExpectShear(shear.AreaRequired, 1.5 * 500 / 100);
 }
 
 TEST(Shear, ReducedShearMakesTheStressWhenAskedFor)
@@ -48,7 +48,7 @@ TEST(Shear, ReducedShearMakesTheStressWhenAskedFor)
     BeamNumbers beam = BeamOf(10);
     beam.Loads.UNIF = 100;
     beam.ReduceShear = true;
-    ExpectClose(ShearOf(beam).AreaRequired, 1.5 * 400 / 100);
+    ExpectShear(ShearOf(beam).AreaRequired, 1.5 * 400 / 100);
 }
 
 struct PointCase {
@@ -65,7 +65,7 @@ TEST_P(PointInsideDepthTest, IsLeftOutByTheEditionsRule)
     BeamNumbers beam = BeamOf(10);
     beam.Nds = GetParam().Code;
     SetPoint(beam, 0, 1000, GetParam().Place);
-    ExpectClose(ShearOf(beam).ShearReduced, GetParam().Reduced);
+    ExpectShear(ShearOf(beam).ShearReduced, GetParam().Reduced);
 }
 
 // R1 = 1000 (10 - a) / 10. At 0.5 ft R1 = 950: 1997 leaves out all 1000, so that R2 = 50 governs; later
@@ -100,7 +100,7 @@ TEST_P(PartialInsideDepthTest, IsLeftOutByLength)
     const bool atStart = c.End <= 5;
     const double expected =
         std::max(r1 - (atStart ? 200 * c.LeftOut : 0), r2 - (atStart ? 0 : 200 * c.LeftOut));
-    ExpectClose(ShearOf(beam).ShearReduced, expected);
+    ExpectShear(ShearOf(beam).ShearReduced, expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(Places, PartialInsideDepthTest,
@@ -121,10 +121,10 @@ TEST(Shear, HipValleyLeavesOutTheTriangleBesideR2)
     beam.Loads.IncUnifTL = 10;
     beam.Loads.UNIF = 317.92;
     const ShearResult shear = ShearOf(beam);
-    ExpectClose(shear.ShearMax, 2050);
+    ExpectShear(shear.ShearMax, 2050);
     // V at 9 ft of the triangle: |1000 - 81 * 3000 / 100| = 1430; left out 2000 - 1430 = 570, and 10 plf * 1
     // ft
-    ExpectClose(shear.ShearReduced, 2050 - 570 - 10);
+    ExpectShear(shear.ShearReduced, 2050 - 570 - 10);
 }
 
 TEST(Shear, OverhangTakesTheLargestOfItsThreeSections)
@@ -135,9 +135,9 @@ TEST(Shear, OverhangTakesTheLargestOfItsThreeSections)
     SetPoint(beam, 5, 400, 0.5);
     // Overhang moment 1400: R1 = 500 - 140 = 360, R2 = 1640; overhang side 1000, span side 640
     const ShearResult shear = ShearOf(beam);
-    ExpectClose(shear.ShearMax, 1000);
+    ExpectShear(shear.ShearMax, 1000);
     // Overhang side at 1 ft: 400 lb at 0.5 ft loses half; the uniform load stops at R2
-    ExpectClose(shear.ShearReduced, 800);
+    ExpectShear(shear.ShearReduced, 800);
 }
 
 TEST(Shear, OverhangSpanSideLosesItsUniformLoadToo)
@@ -147,8 +147,8 @@ TEST(Shear, OverhangSpanSideLosesItsUniformLoadToo)
     SetPoint(beam, 4, 100, 2);
     // R1 = 1500 - 20 = 1480; R2 = 1620, span side 1520
     const ShearResult shear = ShearOf(beam);
-    ExpectClose(shear.ShearMax, 1520);
-    ExpectClose(shear.ShearReduced, 1220);
+    ExpectShear(shear.ShearMax, 1520);
+    ExpectShear(shear.ShearReduced, 1220);
 }
 
 TEST(Shear, OverhangThatCannotBeComparedHasNoMaximum)
@@ -163,10 +163,10 @@ TEST(Shear, ContinuousBeamsAreLargestAtTheFirstInteriorSupport)
 {
     BeamNumbers beam = BeamOf(12, SupportCondition::MultipleSpans);
     beam.Loads.UNIF = 100;
-    ExpectClose(ShearOf(beam).ShearMax, 750);  // 0.625 w L
-    ExpectClose(ShearOf(beam).ShearReduced, 650);
+    ExpectShear(ShearOf(beam).ShearMax, 750);  // 0.625 w L
+    ExpectShear(ShearOf(beam).ShearReduced, 650);
     beam.ThreeSpan = true;
-    ExpectClose(ShearOf(beam).ShearMax, 720);  // 0.6 w L
+    ExpectShear(ShearOf(beam).ShearMax, 720);  // 0.6 w L
 }
 
 TEST(Shear, RoundMembersHaveTheFactorOfACircle)
@@ -174,21 +174,21 @@ TEST(Shear, RoundMembersHaveTheFactorOfACircle)
     BeamNumbers beam = BeamOf(10);
     beam.Loads.UNIF = 100;
     const SectionProps round = RoundProps(12, {.NoWeight = true, .DensityFactor = 0, .SlopeFactor = 1});
-    ExpectClose(round.A, 113.0976);  // 0.7854 * 144
-    ExpectClose(ShearOf(beam, round).ShearStressActual, 1.33333 * 500 / 113.0976);
+    ExpectShear(round.A, 113.0976);  // 0.7854 * 144
+    ExpectShear(ShearOf(beam, round).ShearStressActual, 1.33333 * 500 / 113.0976);
 }
 
 TEST(Sections, FollowTheirFormulas)
 {
     const WeightBasis wood{.NoWeight = false, .DensityFactor = 0.243F, .SlopeFactor = 1.25F};
     const SectionProps joist = RectangleProps({.B = 1.5, .D = 9.25}, wood);
-    ExpectClose(joist.S, 21.390625);  // NDS Supplement table 1B: 21.39
-    ExpectClose(joist.I, 98.931641);  // 98.93
-    ExpectClose(joist.SelfWeightPlf, 13.875 * 0.243 * 1.25);
+    ExpectShear(joist.S, 21.390625);  // NDS Supplement table 1B: 21.39
+    ExpectShear(joist.I, 98.931641);  // 98.93
+    ExpectShear(joist.SelfWeightPlf, 13.875 * 0.243 * 1.25);
     const SectionProps log = RoundProps(10, wood);
-    ExpectClose(log.S, 98.1746);
-    ExpectClose(log.I, 490.873);
-    ExpectClose(log.SelfWeightPlf, 78.54 * 0.243 * 1.25);
+    ExpectShear(log.S, 98.1746);
+    ExpectShear(log.I, 490.873);
+    ExpectShear(log.SelfWeightPlf, 78.54 * 0.243 * 1.25);
 }
 
 }  // namespace

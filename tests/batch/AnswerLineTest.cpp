@@ -1,11 +1,10 @@
-#include "batch/AnswerLine.h"
-
 #include <gmock/gmock.h>
 #include <rapidjson/document.h>
 
 #include <string>
 #include <string_view>
 
+#include "batch/Answers.h"
 #include "support/CaseName.h"
 
 namespace kordavan {
@@ -15,26 +14,10 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-std::string Answer(std::string_view line)
-{
-    rapidjson::StringBuffer buffer;
-    AnswerLine(line, buffer);
-    return {buffer.GetString(), buffer.GetSize()};
-}
-
-rapidjson::Document ParsedAnswer(std::string_view line)
-{
-    rapidjson::Document answer;
-    const std::string text = Answer(line);
-    answer.Parse(text.c_str());
-    EXPECT_FALSE(answer.HasParseError()) << text;
-    return answer;
-}
-
 TEST(BeamTask, RefusesInTheWordsOfTheScreen)
 {
     EXPECT_EQ(
-        Answer(R"({"task":"beam","id":7,"criteria":{"UNIF":60}})"),
+        AnswerText(R"({"task":"beam","id":7,"criteria":{"UNIF":60}})"),
         R"({"id":7,"status":"refused","messages":[{"kind":"refusal","title":"Kordavan",)"
         R"("text":"Please enter a beam Span","focus":"Span"}],"refusal":{"kind":"refusal","title":"Kordavan",)"
         R"("text":"Please enter a beam Span","focus":"Span"}})");
@@ -42,7 +25,7 @@ TEST(BeamTask, RefusesInTheWordsOfTheScreen)
 
 TEST(BeamTask, AnalysesWithoutAMember)
 {
-    const auto answer = ParsedAnswer(
+    const auto answer = AnswerTo(
         R"({"task":"beam","criteria":{"Span":"10","PT":["",1000],"LPT":[0,600],"DIS":[0,4],"Dur":"0.90"}})");
     EXPECT_STREQ(answer["status"].GetString(), "done");
     EXPECT_EQ(answer["criteria"]["PT"].Size(), 6U);
@@ -56,7 +39,7 @@ TEST(BeamTask, AnalysesWithoutAMember)
 TEST(BeamTask, GivesStationsWhenAskedFor)
 {
     const auto answer =
-        ParsedAnswer(R"({"task":"beam","stations":true,"criteria":{"Span":10,"UNIF":100,"LUNIF":60}})");
+        AnswerTo(R"({"task":"beam","stations":true,"criteria":{"Span":10,"UNIF":100,"LUNIF":60}})");
     EXPECT_EQ(answer["stations"].Size(), 201U);
     EXPECT_EQ(answer["stations"][100][1].GetDouble(), 1250);
     EXPECT_EQ(answer["stations"][200][2].GetDouble(), -500);
@@ -65,8 +48,8 @@ TEST(BeamTask, GivesStationsWhenAskedFor)
 TEST(BeamTask, WithAMemberHasEveryBlock)
 {
     const auto answer =
-        ParsedAnswer(R"({"task":"beam","edition":"2005","criteria":{"Span":12,"UNIF":100,"LUNIF":60},)"
-                     R"("member":{"BreadthText":"4x","DepthText":"10","SpeciesText":"HF #1"}})");
+        AnswerTo(R"({"task":"beam","edition":"2005","criteria":{"Span":12,"UNIF":100,"LUNIF":60},)"
+                 R"("member":{"BreadthText":"4x","DepthText":"10","SpeciesText":"HF #1"}})");
     for (const char* const block :
          {"criteria", "analysis", "member", "values", "factors", "stability", "adjusted", "test", "report"}) {
         EXPECT_TRUE(answer.HasMember(block)) << block;
@@ -79,8 +62,8 @@ TEST(BeamTask, WithAMemberHasEveryBlock)
 TEST(BeamTask, KeepsTheAnalysisWhereTheMemberIsRefused)
 {
     const auto answer =
-        ParsedAnswer(R"({"task":"beam","stations":true,"criteria":{"Span":12,"UNIF":100,"LUNIF":60},)"
-                     R"("member":{"BreadthText":"4","DepthText":"10","SpeciesText":"HF #1"}})");
+        AnswerTo(R"({"task":"beam","stations":true,"criteria":{"Span":12,"UNIF":100,"LUNIF":60},)"
+                 R"("member":{"BreadthText":"4","DepthText":"10","SpeciesText":"HF #1"}})");
     EXPECT_STREQ(answer["status"].GetString(), "refused");
     EXPECT_TRUE(answer.HasMember("analysis"));
     EXPECT_FALSE(answer["analysis"].HasMember("R1Total"));
@@ -91,7 +74,7 @@ TEST(BeamTask, KeepsTheAnalysisWhereTheMemberIsRefused)
 TEST(BeamTask, PassesEntriesThroughTheirBoxes)
 {
     const auto answer =
-        ParsedAnswer(R"({"task":"beam","criteria":{"Span":12,"UNIF":100,"LUNIF":"60","LPT":["","","x"]}})");
+        AnswerTo(R"({"task":"beam","criteria":{"Span":12,"UNIF":100,"LUNIF":"60","LPT":["","","x"]}})");
     EXPECT_STREQ(answer["status"].GetString(), "done");
     ASSERT_EQ(answer["messages"].Size(), 1U);
     EXPECT_STREQ(answer["messages"][0]["kind"].GetString(), "alert");
@@ -107,7 +90,7 @@ TEST(BeamTask, AnswersQuestionsAsTold)
         R"("LPT":["","","","",60],"DIS":["","","","",6]}})";
     const auto with = [&](std::string_view answerField) {
         std::string line(overhang);
-        return ParsedAnswer(line.replace(line.find('%'), 1, answerField));
+        return AnswerTo(line.replace(line.find('%'), 1, answerField));
     };
     EXPECT_STREQ(with("")["status"].GetString(), "done");
     const auto no = with(R"("answer":"no",)");
@@ -117,33 +100,33 @@ TEST(BeamTask, AnswersQuestionsAsTold)
 
 TEST(BeamTask, RunsTheHipToolWhereOnlyTheRoofLoadIsGiven)
 {
-    const auto answer = ParsedAnswer(
+    const auto answer = AnswerTo(
         R"({"task":"beam","criteria":{"IncButton":true,"IncTL":40,"IncLL":25,"Trib1":10,"Trib2":10,"CalctheSpan":true,)"
         R"("Areas":[true,true]}})");
     EXPECT_STREQ(answer["status"].GetString(), "done");
     EXPECT_NEAR(answer["analysis"]["R2Applied"].GetDouble(), 2 * 2000.0 / 3, 0.01);
-    const auto refused = ParsedAnswer(R"({"task":"beam","criteria":{"IncButton":true,"IncTL":40}})");
+    const auto refused = AnswerTo(R"({"task":"beam","criteria":{"IncButton":true,"IncTL":40}})");
     EXPECT_STREQ(refused["refusal"]["focus"].GetString(), "Trib1");
 }
 
 TEST(SelectTask, GivesTheFilledCellsAndTheTextsOfTheScreen)
 {
     const auto answer =
-        ParsedAnswer(R"({"task":"select","criteria":{"Span":12,"UNIF":100,"LUNIF":60,"Combo1":5}})");
+        AnswerTo(R"({"task":"select","criteria":{"Span":12,"UNIF":100,"LUNIF":60,"Combo1":5}})");
     EXPECT_STREQ(answer["status"].GetString(), "done");
     EXPECT_STREQ(answer["picks"][0]["BreadthText"].GetString(), "2x");
     EXPECT_STREQ(answer["picks"][0]["SpeciesText"].GetString(), "Mixed So. Pine #2");
     EXPECT_STREQ(answer["picks"][0]["DepthText"].GetString(), "12");
     EXPECT_STREQ(answer["labels"]["Label16"].GetString(), "8-1/2x");
     EXPECT_STREQ(answer["labels"]["MOMENT"].GetString(), "1,800 ft-lbs");
-    EXPECT_THAT(Answer(R"({"task":"select","criteria":{"Span":12,"UNIF":100,"Combo1":8}})"),
+    EXPECT_THAT(AnswerText(R"({"task":"select","criteria":{"Span":12,"UNIF":100,"Combo1":8}})"),
                 HasSubstr("criteria.Combo1: a species group"));
-    EXPECT_THAT(Answer(R"({"task":"select","criteria":{"Span":12}})"), HasSubstr("\"refused\""));
+    EXPECT_THAT(AnswerText(R"({"task":"select","criteria":{"Span":12}})"), HasSubstr("\"refused\""));
 }
 
 TEST(HipValleyTask, GivesTheCriteriaAsTheyStand)
 {
-    const auto answer = ParsedAnswer(
+    const auto answer = AnswerTo(
         R"({"task":"hip-valley","criteria":{"IncButton":true,"IncTL":40,"Trib1":6,"Trib2":8,"CalctheSpan":true,)"
         R"("Areas":[true,true,true,true]}})");
     EXPECT_EQ(answer["criteria"]["Span"].GetDouble(), 10);
@@ -159,17 +142,17 @@ TEST(HipValleyTask, GivesTheCriteriaAsTheyStand)
 
 TEST(Answers, ReadBackTheSameFloat)
 {
-    EXPECT_THAT(Answer(R"({"task":"beam","criteria":{"Span":12,"UNIF":100,"LUNIF":60}})"),
+    EXPECT_THAT(AnswerText(R"({"task":"beam","criteria":{"Span":12,"UNIF":100,"LUNIF":60}})"),
                 HasSubstr(R"("DensityFactor":0.243,)"));
 }
 
 TEST(Answers, GiveBackAnyId)
 {
-    EXPECT_THAT(Answer(R"({"id":{"a":[1,null,"é"]},"task":"beam"})"),
+    EXPECT_THAT(AnswerText(R"({"id":{"a":[1,null,"é"]},"task":"beam"})"),
                 StartsWith(R"({"id":{"a":[1,null,"é"]},)"));
-    EXPECT_THAT(Answer(R"({"id":"\ud83d\ude00 \\udc00","task":"beam"})"),
+    EXPECT_THAT(AnswerText(R"({"id":"\ud83d\ude00 \\udc00","task":"beam"})"),
                 StartsWith("{\"id\":\"\xF0\x9F\x98\x80 \\\\udc00\","));
-    EXPECT_THAT(Answer(R"({"id":"x","task":"none"})"), StartsWith(R"({"id":"x","status":"invalid")"));
+    EXPECT_THAT(AnswerText(R"({"id":"x","task":"none"})"), StartsWith(R"({"id":"x","status":"invalid")"));
 }
 
 struct InvalidCase {
@@ -181,7 +164,7 @@ class InvalidLineTest : public testing::TestWithParam<InvalidCase> {};
 
 TEST_P(InvalidLineTest, SaysWhatIsWrongAndWhere)
 {
-    const auto answer = ParsedAnswer(GetParam().Line);
+    const auto answer = AnswerTo(GetParam().Line);
     EXPECT_STREQ(answer["status"].GetString(), "invalid");
     EXPECT_THAT(answer["error"].GetString(), StartsWith(std::string(GetParam().Error)));
     EXPECT_FALSE(answer.HasMember("messages"));
@@ -229,12 +212,13 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(InvalidLines, OfAnyDepthOrLengthAreAnswered)
 {
-    EXPECT_THAT(Answer(std::string(100000, '[')), HasSubstr("the line is nested too deeply"));
+    EXPECT_THAT(AnswerText(std::string(100000, '[')), HasSubstr("the line is nested too deeply"));
     std::string nested = R"({"id":)" + std::string(70, '[') + std::string(70, ']') + "}";
-    EXPECT_THAT(Answer(nested), HasSubstr("the line is nested too deeply"));
-    EXPECT_THAT(Answer(std::string((1 << 20) + 1, ' ')), HasSubstr("the line is longer than 1048576 bytes"));
+    EXPECT_THAT(AnswerText(nested), HasSubstr("the line is nested too deeply"));
+    EXPECT_THAT(AnswerText(std::string((1 << 20) + 1, ' ')),
+                HasSubstr("the line is longer than 1048576 bytes"));
     EXPECT_THAT(
-        Answer(
+        AnswerText(
             R"({"task":"beam","id":"[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[["})"),
         Not(HasSubstr("nested")));
 }

@@ -56,7 +56,7 @@ std::string ReadAll(int input)
     return text;
 }
 
-std::string AnswerText(const std::string& text, int jobs)
+std::string AnswerOfRun(const std::string& text, int jobs)
 {
     Pipe input;
     Pipe output;
@@ -76,9 +76,9 @@ std::string AnswerText(const std::string& text, int jobs)
 
 TEST(BatchRun, AnswersEveryLineEvenAnEmptyOrAnUnfinishedOne)
 {
-    EXPECT_EQ(AnswerText("one\n\nthree\r\nlast", 1), "3\n0\n5\n4\n");
-    EXPECT_EQ(AnswerText("", 1), "");
-    EXPECT_EQ(AnswerText("\n", 1), "0\n");
+    EXPECT_EQ(AnswerOfRun("one\n\nthree\r\nlast", 1), "3\n0\n5\n4\n");
+    EXPECT_EQ(AnswerOfRun("", 1), "");
+    EXPECT_EQ(AnswerOfRun("\n", 1), "0\n");
 }
 
 TEST(BatchRun, KeepsTheOrderOnSeveralThreads)
@@ -90,12 +90,12 @@ TEST(BatchRun, KeepsTheOrderOnSeveralThreads)
         text += std::string(length, 'x') + "\n";
         expected += std::to_string(length) + "\n";
     }
-    EXPECT_EQ(AnswerText(text, 4), expected);
+    EXPECT_EQ(AnswerOfRun(text, 4), expected);
 }
 
 TEST(BatchRun, KeepsOnlyTheBeginningOfAnEndlessLine)
 {
-    const std::string answers = AnswerText(std::string(5 << 20, 'x') + "\nnext\n", 2);
+    const std::string answers = AnswerOfRun(std::string(5 << 20, 'x') + "\nnext\n", 2);
     const std::size_t length = std::stoul(answers);
     EXPECT_GT(length, MostLineBytes);
     EXPECT_LT(length, 2 * MostLineBytes);

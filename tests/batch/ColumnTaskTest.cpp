@@ -5,23 +5,13 @@
 #include <string_view>
 #include <vector>
 
-#include "batch/AnswerLine.h"
+#include "batch/Answers.h"
 
 namespace kordavan {
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-rapidjson::Document AnswerTo(std::string_view line)
-{
-    rapidjson::StringBuffer buffer;
-    AnswerLine(line, buffer);
-    rapidjson::Document answer;
-    answer.Parse(buffer.GetString(), buffer.GetSize());
-    EXPECT_FALSE(answer.HasParseError()) << buffer.GetString();
-    return answer;
-}
 
 /// A 4x column of DF-L #2, whose values are those of the table, and what else the request has.
 std::string Column(std::string_view more, std::string_view rest)

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "batch/AnswerLine.h"
+#include "batch/Answers.h"
 
 namespace kordavan {
 namespace {
@@ -13,24 +13,10 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-rapidjson::Document AnswerTo(const std::string& fields, std::string_view edition = "2018")
+rapidjson::Document NotchAnswer(const std::string& fields, std::string_view edition = "2018")
 {
-    rapidjson::StringBuffer buffer;
-    AnswerLine(R"({"task":"notch","edition":")" + std::string(edition) + R"(","notch":{)" + fields + "}}",
-               buffer);
-    rapidjson::Document answer;
-    answer.Parse(buffer.GetString(), buffer.GetSize());
-    EXPECT_FALSE(answer.HasParseError()) << buffer.GetString();
-    return answer;
-}
-
-std::vector<std::string> NamesOf(const rapidjson::Value& object)
-{
-    std::vector<std::string> names;
-    for (const auto& member : object.GetObject()) {
-        names.emplace_back(member.name.GetString());
-    }
-    return names;
+    return AnswerTo(R"({"task":"notch","edition":")" + std::string(edition) + R"(","notch":{)" + fields +
+                    "}}");
 }
 
 const std::string PlainNotch =
@@ -39,7 +25,7 @@ const std::string PlainNotch =
 
 TEST(NotchTask, NamesEveryFigureAndLabel)
 {
-    const auto answer = AnswerTo(PlainNotch + R"(,"NDSyearList":0)");
+    const auto answer = NotchAnswer(PlainNotch + R"(,"NDSyearList":0)");
     ASSERT_STREQ(answer["status"].GetString(), "done");
     const auto& result = answer["result"];
     EXPECT_THAT(NamesOf(result), ElementsAre("NdsYear", "Cm", "Ch", "Cd", "AdjustedFv", "AreaAtNotch",
@@ -61,7 +47,7 @@ TEST(NotchTask, NamesEveryFigureAndLabel)
 TEST(NotchTask, ReadsEveryEntry)
 {
     // Glulam, wet, no splits, snow: 100 x 0.875 x 2 x 1.15 = 201.25 psi; 3 x 4 / 12 = 1 ft; 4 in 12.
-    const auto answer = AnswerTo(
+    const auto answer = NotchAnswer(
         R"("MemberListBox":2,"NotchListBox":2,"MaxVtextbox":"9000","breadthtextbox":5,"depthtextbox":"10",)"
         R"("Fvtextbox":"100","dnTextbox":3,"eTextbox":4,"rdTextbox":9.25,"rpTextbox":4,"tTextbox":5.5,)"
         R"("WetUseCheckbox":true,"NoSplitCheckbox":true,"DurListbox":1,"Species":"own","NDSyearList":2)");
@@ -77,7 +63,7 @@ TEST(NotchTask, ReadsEveryEntry)
 
 TEST(NotchTask, ComputesNothingWithoutARule)
 {
-    const auto answer = AnswerTo(PlainNotch + R"(,"NDSyearList":3)");
+    const auto answer = NotchAnswer(PlainNotch + R"(,"NDSyearList":3)");
     EXPECT_STREQ(answer["status"].GetString(), "done");
     ASSERT_EQ(answer["messages"].Size(), 1U);
     EXPECT_STREQ(answer["messages"][0]["kind"].GetString(), "alert");
@@ -89,7 +75,7 @@ TEST(NotchTask, ComputesNothingWithoutARule)
     }
     EXPECT_EQ(result["AreaAtNotch"].GetDouble(), 28);
     EXPECT_STREQ(answer["labels"]["ShearStatusLabel"].GetString(), "");
-    EXPECT_STREQ(AnswerTo(PlainNotch, "2005")["result"]["Status"].GetString(), "OK");
+    EXPECT_STREQ(NotchAnswer(PlainNotch, "2005")["result"]["Status"].GetString(), "OK");
 }
 
 TEST(NotchTask, RefusesAsTheScreenDoesAndFillsNoFv)
@@ -110,7 +96,7 @@ TEST(NotchTask, SaysWhatIsWrongAndWhere)
           std::pair{R"("NDSyearList":4)", "notch.NDSyearList"},
           std::pair{R"("WetUseCheckbox":1)", "notch.WetUseCheckbox"},
           std::pair{R"("rpTextbox":[4])", "notch.rpTextbox"}}) {
-        const auto answer = AnswerTo(fields);
+        const auto answer = NotchAnswer(fields);
         EXPECT_STREQ(answer["status"].GetString(), "invalid") << fields;
         EXPECT_THAT(answer["error"].GetString(), HasSubstr(error));
     }

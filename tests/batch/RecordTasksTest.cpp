@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "batch/AnswerLine.h"
+#include "batch/Answers.h"
 #include "records/RecordBytes.h"
 #include "support/CaseName.h"
 
@@ -14,13 +14,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-
-std::string Answer(std::string_view line)
-{
-    rapidjson::StringBuffer buffer;
-    AnswerLine(line, buffer);
-    return {buffer.GetString(), buffer.GetSize()};
-}
 
 /// A line with PATH in place of the path.
 std::string LineWith(std::string line, const std::string& path)
@@ -49,8 +42,8 @@ TEST(ReadRecord, GivesEveryFieldOfTheDefaults)
     bytes.Text(236, "Arial").Float(266, 40).Float(282, 12.5F).Float(286, 0.1F).Float(302, 3e38F);
     bytes.Short(306, 1).Text(308, "xx").On(314).Short(318, 1).Short(320, -2);
     PutFile(folder.Path("a.ini"), bytes.All() + "tail");
-    EXPECT_EQ(Answer(LineWith(R"({"task":"read-record","id":3,"kind":"defaults","path":"PATH"})",
-                              folder.Path("a.ini"))),
+    EXPECT_EQ(AnswerText(LineWith(R"({"task":"read-record","id":3,"kind":"defaults","path":"PATH"})",
+                                  folder.Path("a.ini"))),
               R"({"id":3,"status":"done","messages":[],"fields":{"RecordTag":4321,"DefHead1":"Head",)"
               "\"DefHead2\":\"  caf\u00E9\","
               R"("DefInitials":"JD","defINGRADE":true,"DefCombo":9,"Def600":true,"FontCombo":"Arial",)"
@@ -71,8 +64,8 @@ TEST(ReadRecord, GivesTheFieldsOfCriteriaAsTheyAreHeld)
         .Text(1491, "1.8");
     bytes.Text(150, std::string_view("\0\0\xC0\x7F", 4)).On(1607);
     PutFile(folder.Path("a.CRI"), bytes.All());
-    const std::string text =
-        Answer(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", folder.Path("a.CRI")));
+    const std::string text = AnswerText(
+        LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", folder.Path("a.CRI")));
     EXPECT_THAT(text, StartsWith(R"({"status":"done","messages":[{"kind":"alert","title":"Kordavan",)"
                                  R"("text":"This criteria was saved under NDS 2012 standards."}],)"
                                  R"("fields":{"RecordTag":-13,"Proj":"Barn","Descrip":"","ID":"",)"
@@ -95,8 +88,8 @@ TEST(ReadRecord, TakesAShortFileAsFarAsItGoes)
 {
     const TemporaryFolder folder;
     PutFile(folder.Path("a.CRI"), BlankCriteria(-11).Text(2, "Barn").Float(92, 16.5F).All().substr(0, 95));
-    const std::string text =
-        Answer(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", folder.Path("a.CRI")));
+    const std::string text = AnswerText(
+        LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", folder.Path("a.CRI")));
     EXPECT_THAT(text, StartsWith(R"({"status":"done","messages":[],"fields":{"RecordTag":-11,"Proj":"Barn",)"
                                  R"("Descrip":"","ID":"","Span":0,)"));
     EXPECT_THAT(text, testing::EndsWith(R"(},"bytes":95})"));
@@ -119,8 +112,8 @@ TEST(ReadRecord, AsksAboutTheEditionOfCustomValues)
     const TemporaryFolder folder;
     PutFile(folder.Path("a.Val"), CustomValuesBytes().All());
     EXPECT_EQ(
-        Answer(LineWith(R"({"task":"read-record","edition":"2015","kind":"custom-values","path":"PATH"})",
-                        folder.Path("a.Val"))),
+        AnswerText(LineWith(R"({"task":"read-record","edition":"2015","kind":"custom-values","path":"PATH"})",
+                            folder.Path("a.Val"))),
         R"({"status":"done","messages":[{"kind":"question","title":"Kordavan Courtesy Alert",)"
         R"("text":"Courtesy Alert:      Are you loading NDS 2015 VALUES?\n)"
         R"(Kordavan is currently set to calculate using NDS 2005 procedures.\n)"
@@ -183,10 +176,10 @@ TEST_P(WholeRecordTest, IsWrittenAsItIsRead)
     const std::string path = folder.Path("a");
     const std::string kind = R"(-record","kind":")" + std::string(c.Kind) + R"(","path":"PATH")";
     const std::string bytes = R"("bytes":)" + std::to_string(c.Bytes.size()) + "}";
-    EXPECT_EQ(Answer(LineWith(R"({"task":"write)" + kind + R"(,"fields":{)" + c.Fields + "}}", path)),
+    EXPECT_EQ(AnswerText(LineWith(R"({"task":"write)" + kind + R"(,"fields":{)" + c.Fields + "}}", path)),
               R"({"status":"done","messages":[],)" + bytes);
     EXPECT_EQ(FirstDifference(FileBytes(path), c.Bytes), "");
-    EXPECT_THAT(Answer(LineWith(R"({"task":"read)" + kind + "}", path)),
+    EXPECT_THAT(AnswerText(LineWith(R"({"task":"read)" + kind + "}", path)),
                 testing::EndsWith(R"(,"fields":{"RecordTag":)" + std::to_string(c.Tag) + "," + c.Fields +
                                   "}," + bytes));
 }
@@ -208,18 +201,18 @@ TEST(WriteRecord, PutsTheCellsOfADataRecordAtTheirPlaces)
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.Dat");
     EXPECT_EQ(
-        Answer(LineWith(R"({"task":"write-record","kind":"data-record","path":"PATH","fields":{)"
-                        R"("Label1":"Barn","Label13":"38.92","Label19":"kept","Label133Missing":"head",)"
-                        R"("ReportNotes":["","note"],"Label133":"R2= 3 in\u00b2","SteelRecord":true,)"
-                        R"("Label194":"  Rb > 50!"}})",
-                        path)),
+        AnswerText(LineWith(R"({"task":"write-record","kind":"data-record","path":"PATH","fields":{)"
+                            R"("Label1":"Barn","Label13":"38.92","Label19":"kept","Label133Missing":"head",)"
+                            R"("ReportNotes":["","note"],"Label133":"R2= 3 in\u00b2","SteelRecord":true,)"
+                            R"("Label194":"  Rb > 50!"}})",
+                            path)),
         R"({"status":"done","messages":[],"bytes":4809})");
     RecordBytes expected(4809);
     expected.Short(0, 556).Blanks(2, 4565).On(4567).Blanks(4569, 230).Text(2, "Barn").Text(462, "38.92");
     expected.Text(582, "kept").Text(2732, "head").Text(3747, "note").Text(4527, "R2= 3 in\xB2");
     EXPECT_EQ(FirstDifference(FileBytes(path), expected.Text(4749, "  Rb > 50!").All()), "");
     const std::string text =
-        Answer(LineWith(R"({"task":"read-record","kind":"data-record","path":"PATH"})", path));
+        AnswerText(LineWith(R"({"task":"read-record","kind":"data-record","path":"PATH"})", path));
     EXPECT_THAT(text, StartsWith(R"({"status":"done","messages":[],"fields":{"RecordTag":556,)"
                                  R"("Label1":"Barn","Label2":"",)"));
     EXPECT_THAT(text, HasSubstr(R"("Label6":"","Label13":"38.92","Label14":"",)"));
@@ -246,10 +239,10 @@ TEST_P(TextRecordTest, IsWrittenAndReadByTheNamesOfItsCells)
     const std::string path = folder.Path("a");
     const std::string kind = R"(-record","kind":")" + std::string(c.Kind) + R"(","path":"PATH")";
     const std::string bytes = R"("bytes":)" + std::to_string(c.Bytes.size()) + "}";
-    EXPECT_EQ(Answer(LineWith(R"({"task":"write)" + kind + R"(,"fields":{)" + c.Fields + "}}", path)),
+    EXPECT_EQ(AnswerText(LineWith(R"({"task":"write)" + kind + R"(,"fields":{)" + c.Fields + "}}", path)),
               R"({"status":"done","messages":[],)" + bytes);
     EXPECT_EQ(FirstDifference(FileBytes(path), c.Bytes), "");
-    const std::string text = Answer(LineWith(R"({"task":"read)" + kind + "}", path));
+    const std::string text = AnswerText(LineWith(R"({"task":"read)" + kind + "}", path));
     EXPECT_THAT(text,
                 StartsWith(R"({"status":"done","messages":[{"kind":"alert","title":"Kordavan","text":")" +
                            std::string(c.Loaded)));
@@ -303,9 +296,9 @@ TEST(WriteRecord, LeavesProductsBlankThatAreNotGiven)
 {
     const TemporaryFolder folder;
     const std::string path = folder.Path("a");
-    Answer(LineWith(R"({"task":"write-record","kind":"scl","path":"PATH","fields":{"RecordTag":114,)"
-                    R"("Products":[{},{"FcPerp":750}]}})",
-                    path));
+    AnswerText(LineWith(R"({"task":"write-record","kind":"scl","path":"PATH","fields":{"RecordTag":114,)"
+                        R"("Products":[{},{"FcPerp":750}]}})",
+                        path));
     EXPECT_EQ(FirstDifference(FileBytes(path), RecordBytes(244).Short(0, 114).Short(22, 750).All()), "");
 }
 
@@ -323,7 +316,7 @@ TEST_P(WrongKindTest, IsRefusedWithTheMessageOfLoading)
     PutFile(folder.Path("a"), GetParam().Bytes);
     const std::string message =
         R"({"kind":"refusal","title":"Kordavan","text":")" + std::string(GetParam().Text);
-    const std::string text = Answer(
+    const std::string text = AnswerText(
         LineWith(R"({"task":"read-record","kind":")" + std::string(GetParam().Kind) + R"(","path":"PATH"})",
                  folder.Path("a")));
     EXPECT_THAT(text, StartsWith(R"({"status":"refused","messages":[)" + message));
@@ -368,7 +361,7 @@ TEST(ReadRecord, RefusesAFileThatCannotBeReadAndMakesNone)
     const std::string refusal =
         R"({"kind":"refusal","title":"Kordavan","text":"This file could not be read:\n    )" + path +
         R"(\nNo such file or directory"})";
-    EXPECT_EQ(Answer(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", path)),
+    EXPECT_EQ(AnswerText(LineWith(R"({"task":"read-record","kind":"criteria","path":"PATH"})", path)),
               R"({"status":"refused","messages":[)" + refusal + R"(],"refusal":)" + refusal + "}");
     EXPECT_EQ(folder.FileCount(), 0U);
 }
@@ -377,13 +370,13 @@ TEST(WriteRecord, PutsTheFieldsOfCriteriaAtTheirPlaces)
 {
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.CRI");
-    EXPECT_EQ(
-        Answer(LineWith(R"({"task":"write-record","id":"x","kind":"criteria","path":"PATH","fields":{)"
-                        R"("Proj":"Caf\u00e9","Span":16.5,"MaxDefl":-180,"Combo1":42,"Rep":true,"Wet":false,)"
-                        R"("PT":[1,2.5],"BEGP":[0,0.0001,3],"PAR":[],"ReportNotes":["","second"],)"
-                        R"("Custom.Text1":"24000","Nds2018":true}})",
-                        path)),
-        R"({"id":"x","status":"done","messages":[],"bytes":1613})");
+    EXPECT_EQ(AnswerText(LineWith(
+                  R"({"task":"write-record","id":"x","kind":"criteria","path":"PATH","fields":{)"
+                  R"("Proj":"Caf\u00e9","Span":16.5,"MaxDefl":-180,"Combo1":42,"Rep":true,"Wet":false,)"
+                  R"("PT":[1,2.5],"BEGP":[0,0.0001,3],"PAR":[],"ReportNotes":["","second"],)"
+                  R"("Custom.Text1":"24000","Nds2018":true}})",
+                  path)),
+              R"({"id":"x","status":"done","messages":[],"bytes":1613})");
     RecordBytes expected = BlankCriteria(-2007);
     expected.Text(2, "Caf\xE9").Float(92, 16.5F).Short(100, -180).Short(104, 42).On(110);
     expected.Float(138, 1).Float(142, 2.5F).Text(274, "\x17\xB7\xD1\x38").Float(278, 3);
@@ -397,10 +390,10 @@ TEST(WriteRecord, PutsTheFieldsOfTheDefaultsAtTheirPlaces)
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.ini");
     EXPECT_EQ(
-        Answer(LineWith(R"({"task":"write-record","kind":"defaults","path":"PATH","fields":{)"
-                        R"("DefHead2":"two","DefInitials":"ABCDEFGHIJ","DefCombo":9,"Livedefault":[40],)"
-                        R"("TotalLoadDefault":[1,2,3,4,5],"CenterFormCheckbox":1}})",
-                        path)),
+        AnswerText(LineWith(R"({"task":"write-record","kind":"defaults","path":"PATH","fields":{)"
+                            R"("DefHead2":"two","DefInitials":"ABCDEFGHIJ","DefCombo":9,"Livedefault":[40],)"
+                            R"("TotalLoadDefault":[1,2,3,4,5],"CenterFormCheckbox":1}})",
+                            path)),
         R"({"status":"done","messages":[],"bytes":322})");
     RecordBytes expected = BlankDefaults(4321);
     expected.Text(112, "two").Text(222, "ABCDEFGH").Short(232, 9).Float(266, 40);
@@ -413,7 +406,7 @@ TEST(WriteRecord, TakesATagAmongTheFields)
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.CRI");
     EXPECT_EQ(
-        Answer(LineWith(
+        AnswerText(LineWith(
             R"({"task":"write-record","kind":"criteria","path":"PATH","fields":{"RecordTag":-12}})", path)),
         R"({"status":"done","messages":[],"bytes":1613})");
     EXPECT_EQ(FirstDifference(FileBytes(path), BlankCriteria(-12).All()), "");
@@ -424,7 +417,7 @@ TEST(WriteRecord, KeepsWhatStandsBehindTheRecord)
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.ini");
     PutFile(path, std::string(322, 'x') + "tail");
-    EXPECT_EQ(Answer(LineWith(R"({"task":"write-record","kind":"defaults","path":"PATH"})", path)),
+    EXPECT_EQ(AnswerText(LineWith(R"({"task":"write-record","kind":"defaults","path":"PATH"})", path)),
               R"({"status":"done","messages":[],"bytes":326})");
     EXPECT_EQ(FirstDifference(FileBytes(path), BlankDefaults(4321).All() + "tail"), "");
 }
@@ -437,17 +430,17 @@ TEST(WriteRecord, RefusesWhereNoFileCanBeWritten)
         R"({"kind":"refusal","title":"Kordavan","text":"This file could not be saved; what stood in it is )"
         R"(unchanged:\n    )" +
         path + R"(\nNo such file or directory"})";
-    EXPECT_EQ(Answer(LineWith(R"({"task":"write-record","kind":"criteria","path":"PATH"})", path)),
+    EXPECT_EQ(AnswerText(LineWith(R"({"task":"write-record","kind":"criteria","path":"PATH"})", path)),
               R"({"status":"refused","messages":[)" + refusal + R"(],"refusal":)" + refusal + "}");
     EXPECT_EQ(folder.FileCount(), 0U);
 }
 
-struct InvalidCase {
+struct InvalidRecordCase {
     std::string_view Line;
     std::string_view Error;
 };
 
-class InvalidRecordTaskTest : public testing::TestWithParam<InvalidCase> {};
+class InvalidRecordTaskTest : public testing::TestWithParam<InvalidRecordCase> {};
 
 TEST_P(InvalidRecordTaskTest, SaysWhatIsWrongAndTouchesNothing)
 {
@@ -456,31 +449,31 @@ TEST_P(InvalidRecordTaskTest, SaysWhatIsWrongAndTouchesNothing)
     if (line.find("PATH") != std::string::npos) {
         line = LineWith(line, folder.Path("a.CRI"));
     }
-    EXPECT_EQ(Answer(line), R"({"status":"invalid","error":")" + std::string(GetParam().Error) + R"("})");
+    EXPECT_EQ(AnswerText(line), R"({"status":"invalid","error":")" + std::string(GetParam().Error) + R"("})");
     EXPECT_EQ(folder.FileCount(), 0U);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Requests, InvalidRecordTaskTest,
-    testing::Values(InvalidCase{R"({"task":"read-record","path":"PATH"})", "kind: missing"},
-                    InvalidCase{R"({"task":"read-record","kind":"columns","path":"PATH"})",
-                                "kind: no such kind of record"},
-                    InvalidCase{R"({"task":"read-record","kind":7,"path":"PATH"})",
-                                "kind: a text is expected"},
-                    InvalidCase{R"({"task":"read-record","kind":"criteria"})", "path: missing"},
-                    InvalidCase{R"({"task":"read-record","kind":"criteria","path":["PATH"]})",
-                                "path: a text is expected"},
-                    InvalidCase{R"({"task":"read-record","kind":"criteria","path":"PATH","fields":{}})",
-                                "fields: no such field in this task"},
-                    InvalidCase{R"({"task":"read-record","kind":"scl","path":"PATH","edition":"1999"})",
-                                R"(edition: \"1997\", \"2001\", \"2005\", \"2012\", \"2015\" or \"2018\" )"
-                                R"(is expected)"},
-                    InvalidCase{R"({"task":"write-record","path":"PATH"})", "kind: missing"},
-                    InvalidCase{R"({"task":"write-record","kind":"Criteria","path":"PATH"})",
-                                "kind: no such kind of record"},
-                    InvalidCase{R"({"task":"write-record","kind":"criteria"})", "path: missing"},
-                    InvalidCase{R"({"task":"write-record","kind":"criteria","path":"PATH","field":{}})",
-                                "field: no such field in this task"}));
+    testing::Values(
+        InvalidRecordCase{R"({"task":"read-record","path":"PATH"})", "kind: missing"},
+        InvalidRecordCase{R"({"task":"read-record","kind":"columns","path":"PATH"})",
+                          "kind: no such kind of record"},
+        InvalidRecordCase{R"({"task":"read-record","kind":7,"path":"PATH"})", "kind: a text is expected"},
+        InvalidRecordCase{R"({"task":"read-record","kind":"criteria"})", "path: missing"},
+        InvalidRecordCase{R"({"task":"read-record","kind":"criteria","path":["PATH"]})",
+                          "path: a text is expected"},
+        InvalidRecordCase{R"({"task":"read-record","kind":"criteria","path":"PATH","fields":{}})",
+                          "fields: no such field in this task"},
+        InvalidRecordCase{R"({"task":"read-record","kind":"scl","path":"PATH","edition":"1999"})",
+                          R"(edition: \"1997\", \"2001\", \"2005\", \"2012\", \"2015\" or \"2018\" )"
+                          R"(is expected)"},
+        InvalidRecordCase{R"({"task":"write-record","path":"PATH"})", "kind: missing"},
+        InvalidRecordCase{R"({"task":"write-record","kind":"Criteria","path":"PATH"})",
+                          "kind: no such kind of record"},
+        InvalidRecordCase{R"({"task":"write-record","kind":"criteria"})", "path: missing"},
+        InvalidRecordCase{R"({"task":"write-record","kind":"criteria","path":"PATH","field":{}})",
+                          "field: no such field in this task"}));
 
 struct InvalidFieldCase {
     std::string_view Kind;
@@ -498,7 +491,7 @@ TEST_P(InvalidRecordFieldTest, LeavesTheOldFile)
     PutFile(path, "old");
     const std::string line = R"({"task":"write-record","kind":")" + std::string(c.Kind) +
                              R"(","path":"PATH","fields":)" + std::string(c.Fields) + "}";
-    EXPECT_EQ(Answer(LineWith(line, path)),
+    EXPECT_EQ(AnswerText(LineWith(line, path)),
               R"({"status":"invalid","error":")" + std::string(c.Error) + R"("})");
     EXPECT_EQ(FileBytes(path), "old");
     EXPECT_EQ(folder.FileCount(), 1U);

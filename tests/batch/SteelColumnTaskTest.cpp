@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "batch/AnswerLine.h"
+#include "batch/Answers.h"
 
 namespace kordavan {
 namespace {
@@ -13,30 +13,11 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-rapidjson::Document AnswerTo(std::string_view line)
-{
-    rapidjson::StringBuffer buffer;
-    AnswerLine(line, buffer);
-    rapidjson::Document answer;
-    answer.Parse(buffer.GetString(), buffer.GetSize());
-    EXPECT_FALSE(answer.HasParseError()) << buffer.GetString();
-    return answer;
-}
-
 /// A request for a column of 60 kips, 14 ft high, with more fields behind it.
 std::string SteelColumn(std::string_view fields)
 {
     return R"({"task":"steel-column","column":{"cReacText":60000,"cHTtext":"14","cD1text":"14"})" +
            std::string(fields) + "}";
-}
-
-std::vector<std::string> NamesOf(const rapidjson::Value& object)
-{
-    std::vector<std::string> names;
-    for (const auto& member : object.GetObject()) {
-        names.emplace_back(member.name.GetString());
-    }
-    return names;
 }
 
 TEST(SteelColumnTask, GivesThePicksAlone)

@@ -4,23 +4,13 @@
 #include <string>
 #include <string_view>
 
-#include "batch/AnswerLine.h"
+#include "batch/Answers.h"
 #include "batch/ReadableReport.h"
 
 namespace kordavan {
 namespace {
 
 using testing::HasSubstr;
-
-rapidjson::Document AnswerTo(std::string_view line)
-{
-    rapidjson::StringBuffer buffer;
-    AnswerLine(line, buffer);
-    rapidjson::Document answer;
-    answer.Parse(buffer.GetString(), buffer.GetSize());
-    EXPECT_FALSE(answer.HasParseError()) << buffer.GetString();
-    return answer;
-}
 
 constexpr std::string_view SteelBeam =
     R"({"task":"beam","criteria":{"Span":20,"UNIF":1162,"LUNIF":800,"Combo1":9,"WFbutton":true},)"

@@ -61,54 +61,56 @@ TEST_P(ColumnCheckTest, TellsWhatIsWrongAndWhere)
     }
 }
 
-using C = ColumnEntry;
+using Boxes = ColumnEntry;
 INSTANTIATE_TEST_SUITE_P(
     Boxes, ColumnCheckTest,
     testing::Values(
-        BoxCase{"no load", &C::cReacText, "", "Please enter a reaction weight on the column.", "cReacText"},
-        BoxCase{"load in words", &C::cReacText, "lots", "Please enter a reaction weight on the column.",
+        BoxCase{"no load", &Boxes::cReacText, "", "Please enter a reaction weight on the column.",
                 "cReacText"},
-        BoxCase{"no height", &C::cHTtext, "0", NoHeight, "cHTtext"},
-        BoxCase{"no Ke", &C::cModeText, "",
+        BoxCase{"load in words", &Boxes::cReacText, "lots", "Please enter a reaction weight on the column.",
+                "cReacText"},
+        BoxCase{"no height", &Boxes::cHTtext, "0", NoHeight, "cHTtext"},
+        BoxCase{"no Ke", &Boxes::cModeText, "",
                 "Please enter a valid numeric Buckling Mode Value.  The default is 1.0.  For other "
                 "appropriate values please click the on line help button (small raised gray square), next to "
                 "Ke Buckling Mode.",
                 "cModeText"},
-        BoxCase{"letters as Ke", &C::cModeText, "N/A", "", ""},
-        BoxCase{"no D1", &C::cD1text, "",
+        BoxCase{"letters as Ke", &Boxes::cModeText, "N/A", "", ""},
+        BoxCase{"no D1", &Boxes::cD1text, "",
                 "Please enter a valid numeric value for the unbraced length of the column in plane D1.  If "
                 "D1 is braced throughout its length, please enter a zero.",
                 "cD1text"},
-        BoxCase{"D1 of the height", &C::cD1text, "8.0", "", ""},
-        BoxCase{"D1 above the height", &C::cD1text, "8.01", BelowD1, "cD1text"},
-        BoxCase{"no D2", &C::cD2text, "",
+        BoxCase{"D1 of the height", &Boxes::cD1text, "8.0", "", ""},
+        BoxCase{"D1 above the height", &Boxes::cD1text, "8.01", BelowD1, "cD1text"},
+        BoxCase{"no D2", &Boxes::cD2text, "",
                 "Please enter a valid numeric value for the unbraced length of D2.  If D2 is braced "
                 "throughout its length enter a zero.",
                 "cD2text"},
-        BoxCase{"D2 above the height", &C::cD2text, "8.01", BelowD2, "cD2text"},
-        BoxCase{"no duration", &C::cDurText, "0",
+        BoxCase{"D2 above the height", &Boxes::cD2text, "8.01", BelowD2, "cD2text"},
+        BoxCase{"no duration", &Boxes::cDurText, "0",
                 "Please enter a valid numeric value for the duration of load.  The default is 1.0",
                 "cDurText"},
-        BoxCase{"no Fc", &C::cFcText, "",
+        BoxCase{"no Fc", &Boxes::cFcText, "",
                 "Please enter a base value for the column Fc parallel to grain value.", "cFcText"},
-        BoxCase{"Fc 219.9", &C::cFcText, "219.9", FcOutside, "cFcText"},
-        BoxCase{"Fc 220", &C::cFcText, "220", "", ""}, BoxCase{"Fc 2499", &C::cFcText, "2499", "", ""},
-        BoxCase{"Fc 2500", &C::cFcText, "2500", FcOutside, "cFcText"},
-        BoxCase{"no E", &C::cEtext, "", "Please enter a base value for the column E value.", "cEtext"},
-        BoxCase{"E 0.49", &C::cEtext, "0.49", EOutside, "cEtext"},
-        BoxCase{"E 0.5", &C::cEtext, "0.5", "", ""}, BoxCase{"E 2.49", &C::cEtext, "2.49", "", ""},
-        BoxCase{"E 2.5", &C::cEtext, "2.5", EOutside, "cEtext"},
-        BoxCase{"no species", &C::ColSpeciesCombo, "",
+        BoxCase{"Fc 219.9", &Boxes::cFcText, "219.9", FcOutside, "cFcText"},
+        BoxCase{"Fc 220", &Boxes::cFcText, "220", "", ""},
+        BoxCase{"Fc 2499", &Boxes::cFcText, "2499", "", ""},
+        BoxCase{"Fc 2500", &Boxes::cFcText, "2500", FcOutside, "cFcText"},
+        BoxCase{"no E", &Boxes::cEtext, "", "Please enter a base value for the column E value.", "cEtext"},
+        BoxCase{"E 0.49", &Boxes::cEtext, "0.49", EOutside, "cEtext"},
+        BoxCase{"E 0.5", &Boxes::cEtext, "0.5", "", ""}, BoxCase{"E 2.49", &Boxes::cEtext, "2.49", "", ""},
+        BoxCase{"E 2.5", &Boxes::cEtext, "2.5", EOutside, "cEtext"},
+        BoxCase{"no species", &Boxes::ColSpeciesCombo, "",
                 "Please enter a species and grade for your documentation.", "ColSpeciesCombo"},
-        BoxCase{"load below zero", &C::cReacText, "-7000",
+        BoxCase{"load below zero", &Boxes::cReacText, "-7000",
                 "Please enter a number from 0 to 1,000,000,000 for the axial load on the column.",
                 "cReacText"},
-        BoxCase{"Ke beyond all columns", &C::cModeText, "1e30",
+        BoxCase{"Ke beyond all columns", &Boxes::cModeText, "1e30",
                 "Please enter a number from 0 to 1,000,000,000 for the Buckling Mode Value.", "cModeText"},
-        BoxCase{"D2 below zero", &C::cD2text, "-1",
+        BoxCase{"D2 below zero", &Boxes::cD2text, "-1",
                 "Please enter a number from 0 to 1,000,000,000 for the unbraced length in plane D2.",
                 "cD2text"},
-        BoxCase{"effective length next to nothing", &C::cD2text, "1e-9",
+        BoxCase{"effective length next to nothing", &Boxes::cD2text, "1e-9",
                 "The effective length in plane D2, Ke times the unbraced length, is too small to work with. "
                 "If D2 is braced throughout its length, please enter a zero.",
                 "cD2text"}),
@@ -133,8 +135,8 @@ TEST(ColumnChecks, ComeInTheirOrder)
     const ColumnEntry right = WorkingColumn();
     ScriptedUser user;
     for (std::string ColumnEntry::*const box :
-         {&C::cReacText, &C::cHTtext, &C::cModeText, &C::cD1text, &C::cD2text, &C::cDurText, &C::cFcText,
-          &C::cEtext, &C::ColSpeciesCombo}) {
+         {&Boxes::cReacText, &Boxes::cHTtext, &Boxes::cModeText, &Boxes::cD1text, &Boxes::cD2text,
+          &Boxes::cDurText, &Boxes::cFcText, &Boxes::cEtext, &Boxes::ColSpeciesCombo}) {
         ASSERT_EQ(ValidateColumnProblem(entry, ColumnFace::Wood, user), Outcome::Refused);
         entry.*box = right.*box;
     }

@@ -139,7 +139,7 @@ TEST(PickSteelColumn, OfAnEmptyButtonWithdrawsTheReportWithoutAWord)
     EXPECT_THAT(user.Told, IsEmpty());
 }
 
-struct SizeCase {
+struct SteelSizeCase {
     std::string_view Name;
     std::string Size;
     std::string Grade;
@@ -147,7 +147,7 @@ struct SizeCase {
     std::string_view Focus;
 };
 
-class EnteredSizeTest : public testing::TestWithParam<SizeCase> {};
+class EnteredSizeTest : public testing::TestWithParam<SteelSizeCase> {};
 
 TEST_P(EnteredSizeTest, IsReportedOnOrRefusedWithTheReportBeforeLeft)
 {
@@ -174,19 +174,22 @@ TEST_P(EnteredSizeTest, IsReportedOnOrRefusedWithTheReportBeforeLeft)
 INSTANTIATE_TEST_SUITE_P(
     Texts, EnteredSizeTest,
     testing::Values(
-        SizeCase{"as listed", "3 in. diam.", std::string(StandardGrade), "", ""},
-        SizeCase{"blanks around", "  3 in. diam. ", " " + std::string(StandardGrade), "", ""},
-        SizeCase{"empty", "", std::string(StandardGrade), EnterSizeText, "StlColSizeText"},
-        SizeCase{"blank", "  ", "", EnterSizeText, "StlColSizeText"},
-        SizeCase{"without a grade", "3 in. diam.", " ", EnterSizeText, "StlColGrade"},
-        SizeCase{"not listed", "7 in. diam.", std::string(StandardGrade), ListedSizeText, "StlColSizeText"},
-        SizeCase{"part of a name", "3 in.", std::string(StandardGrade), ListedSizeText, "StlColSizeText"},
-        SizeCase{"other case", "3 IN. DIAM.", std::string(StandardGrade), ListedSizeText, "StlColSizeText"},
-        SizeCase{"blanks within", "3x3x1/4", std::string(TubeGrade), ListedSizeText, "StlColSizeText"},
-        SizeCase{"tube with the grade of a pipe", "3 x 3 x 1/4", std::string(StandardGrade), NoMatchText,
-                 "StlColGrade"},
-        SizeCase{"size that its class has not", "3-1/2 in. diam.",
-                 "Dbl Extra Strong Pipe A501 or A53 Grade B", NoMatchText, "StlColGrade"}),
+        SteelSizeCase{"as listed", "3 in. diam.", std::string(StandardGrade), "", ""},
+        SteelSizeCase{"blanks around", "  3 in. diam. ", " " + std::string(StandardGrade), "", ""},
+        SteelSizeCase{"empty", "", std::string(StandardGrade), EnterSizeText, "StlColSizeText"},
+        SteelSizeCase{"blank", "  ", "", EnterSizeText, "StlColSizeText"},
+        SteelSizeCase{"without a grade", "3 in. diam.", " ", EnterSizeText, "StlColGrade"},
+        SteelSizeCase{"not listed", "7 in. diam.", std::string(StandardGrade), ListedSizeText,
+                      "StlColSizeText"},
+        SteelSizeCase{"part of a name", "3 in.", std::string(StandardGrade), ListedSizeText,
+                      "StlColSizeText"},
+        SteelSizeCase{"other case", "3 IN. DIAM.", std::string(StandardGrade), ListedSizeText,
+                      "StlColSizeText"},
+        SteelSizeCase{"blanks within", "3x3x1/4", std::string(TubeGrade), ListedSizeText, "StlColSizeText"},
+        SteelSizeCase{"tube with the grade of a pipe", "3 x 3 x 1/4", std::string(StandardGrade), NoMatchText,
+                      "StlColGrade"},
+        SteelSizeCase{"size that its class has not", "3-1/2 in. diam.",
+                      "Dbl Extra Strong Pipe A501 or A53 Grade B", NoMatchText, "StlColGrade"}),
     CaseName);
 
 TEST(ReportEnteredSteelColumn, RefusesWhatNoFigureCanHold)

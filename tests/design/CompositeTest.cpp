@@ -251,7 +251,7 @@ TEST(TimberStrand, IsHeldToFiveSixteenthsWhereShallow)
     EXPECT_FALSE(deeper.Member.Result.NextSmallerOk);
 }
 
-struct RefusedCase {
+struct RefusedCompositeCase {
     std::string_view Name;
     std::string_view Breadth;
     std::string_view Depth;
@@ -260,11 +260,11 @@ struct RefusedCase {
     std::string_view Focus;
 };
 
-class RefusedCompositeTest : public testing::TestWithParam<RefusedCase> {};
+class RefusedCompositeTest : public testing::TestWithParam<RefusedCompositeCase> {};
 
 TEST_P(RefusedCompositeTest, TellsWhyAndKeepsTheLastTest)
 {
-    const RefusedCase& c = GetParam();
+    const RefusedCompositeCase& c = GetParam();
     Session session = CompositeSession();
     Calculate(session);
     Tested(session, Composite(2, "1-3/4x", "14"));
@@ -280,14 +280,15 @@ TEST_P(RefusedCompositeTest, TellsWhyAndKeepsTheLastTest)
 
 INSTANTIATE_TEST_SUITE_P(
     Entries, RefusedCompositeTest,
-    testing::Values(RefusedCase{"unlisted breadth", "3-1/2x", "14", "2600", "Please check Breadth entry",
-                                "Text6"},
-                    RefusedCase{"breadth", "3.5x", "14", "2600", "Please check Breadth entry", "Text6"},
-                    RefusedCase{"wood breadth", "2x", "14", "2600", "Please check Breadth entry", "Text6"},
-                    RefusedCase{"no breadth", "", "14", "2600", "Please check Breadth entry", "Text6"},
-                    RefusedCase{"depth", "1-3/4x", "13", "2600", "Please check Depth entry", "Text7"},
-                    RefusedCase{"no value", "1-3/4x", "14", "", "Calc module, zero value error!", ""},
-                    RefusedCase{"no number", "1-3/4x", "14", "2,600", "Calc module, zero value error!", ""}),
+    testing::Values(
+        RefusedCompositeCase{"unlisted breadth", "3-1/2x", "14", "2600", "Please check Breadth entry",
+                             "Text6"},
+        RefusedCompositeCase{"breadth", "3.5x", "14", "2600", "Please check Breadth entry", "Text6"},
+        RefusedCompositeCase{"wood breadth", "2x", "14", "2600", "Please check Breadth entry", "Text6"},
+        RefusedCompositeCase{"no breadth", "", "14", "2600", "Please check Breadth entry", "Text6"},
+        RefusedCompositeCase{"depth", "1-3/4x", "13", "2600", "Please check Depth entry", "Text7"},
+        RefusedCompositeCase{"no value", "1-3/4x", "14", "", "Calc module, zero value error!", ""},
+        RefusedCompositeCase{"no number", "1-3/4x", "14", "2,600", "Calc module, zero value error!", ""}),
     CaseName);
 
 TEST(CompositeMember, OfTheUsersOwnNeedsAnExponentBelowOne)

@@ -22,11 +22,11 @@ auto Is(const PictureLoad& load)
                      load.HasPlace, load.OnOverhang);
 }
 
-constexpr auto Uniform = PictureLoadKind::Uniform;
+constexpr auto UniformKind = PictureLoadKind::Uniform;
 constexpr auto Point = PictureLoadKind::Point;
 constexpr auto Partial = PictureLoadKind::Partial;
 
-constexpr PictureLoad PlainUniform{.Kind = Uniform, .Letter = 'A', .End = 12, .Total = 100, .Live = 60};
+constexpr PictureLoad PlainUniform{.Kind = UniformKind, .Letter = 'A', .End = 12, .Total = 100, .Live = 60};
 
 /// A span of 12 ft with a load in the first and the last row of each table.
 Session LoadedSession(SupportCondition support)
@@ -146,7 +146,7 @@ TEST(LoadPicture, ShowsTheRoofOverAHipAsItIsTyped)
     loads.UNIF = "145.176803394625";
     EXPECT_EQ(
         DescribePicture(ReadLoadPicture(session)),
-        "Hip or valley of 12.0 ft, the load rising from R1 to R2. Uniform load beside it: 20 plf, live 0 "
+        "Hip or valley of 12.0 ft, the load rising from R1 to R2. UniformKind load beside it: 20 plf, live 0 "
         "over the whole span. Roof load: 40 psf, live 25, rising from R1 to R2. Equivalent uniform load: "
         "145.1768 plf.");
 }
@@ -175,7 +175,7 @@ TEST(LoadPicture, ShowsALoadOfWhichOneBoxIsFilled)
     EXPECT_THAT(
         ReadLoadPicture(session).Loads,
         ElementsAre(
-            Is({.Kind = Uniform, .Letter = 'A', .End = 12, .Total = 60, .Live = 60}),
+            Is({.Kind = UniformKind, .Letter = 'A', .End = 12, .Total = 60, .Live = 60}),
             Is({.Kind = Point, .Letter = 'C', .Slot = 1, .Begin = 5, .End = 5, .Total = 400, .Live = 0}),
             Is({.Kind = Partial, .Letter = 'I', .Slot = 1, .Begin = 0, .End = 6, .Total = 50, .Live = 50})));
 }

@@ -71,7 +71,7 @@ TEST(InsertPartialLoads, PassesOverRowsWithoutALengthOrALoad)
     EXPECT_EQ(loads.TribPSF[0], "0");
 }
 
-Session HipSession()
+Session HipTotalsSession()
 {
     Session session;
     BeamProblem& problem = session.Problem;
@@ -87,7 +87,7 @@ Session HipSession()
 
 TEST(HipValley, TurnsThePlanIntoAnEquivalentUniformLoad)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     session.Problem.Loads.IncUnifTL = "12";
     ScriptedUser user;
     EXPECT_EQ(CalculateHipValley(session, user), Outcome::Done);
@@ -108,7 +108,7 @@ class PlanShareTest : public testing::TestWithParam<ShareCase> {};
 
 TEST_P(PlanShareTest, CountsTheQuarters)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     session.Problem.Loads.Areas = GetParam().Areas;
     ScriptedUser user;
     EXPECT_EQ(CalculateHipValley(session, user), Outcome::Done);
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Quarters, PlanShareTest,
 
 TEST(HipValley, WithoutLiveLoadEmptiesTheLiveBox)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     session.Problem.Loads.IncLL = "";
     session.Problem.Loads.LUNIF = "77";
     ScriptedUser user;
@@ -132,7 +132,7 @@ TEST(HipValley, WithoutLiveLoadEmptiesTheLiveBox)
 
 TEST(HipValley, TellsBeforeItReplacesATypedSpan)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     session.Problem.Span = "15";
     ScriptedUser user;
     EXPECT_EQ(CalculateHipValley(session, user), Outcome::Done);
@@ -146,7 +146,7 @@ TEST(HipValley, TellsBeforeItReplacesATypedSpan)
 
 TEST(HipValley, KeepsATypedSpanWithoutAutoCalc)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     session.Problem.Loads.CalctheSpan = false;
     session.Problem.Span = "16";
     ScriptedUser user;
@@ -156,7 +156,7 @@ TEST(HipValley, KeepsATypedSpanWithoutAutoCalc)
 
 TEST(HipValley, GrowsTheDeadLoadWithTheSlopeAndPutsItBackOnReturn)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     BeamProblem& problem = session.Problem;
     problem.Roofbutton = true;
     problem.Pitchtext = "9";  // slope factor 1.25
@@ -189,7 +189,7 @@ class HipRefusalTest : public testing::TestWithParam<HipRefusal> {};
 
 TEST_P(HipRefusalTest, ChangesNothing)
 {
-    Session session = HipSession();
+    Session session = HipTotalsSession();
     GetParam().Spoil(session.Problem);
     const std::string load = session.Problem.Loads.IncTL;
     ScriptedUser user;

@@ -222,13 +222,13 @@ constexpr std::string_view NotInFamily =
 constexpr std::string_view NotInFamilyStepping =
     "Your Steel selection does not match any sizes in the Kordavan database for this steel shape.";
 
-struct RefusedCase {
+struct RefusedShapeCase {
     std::string_view Name;
     SteelFamily Family;
     std::string_view Shape;
 };
 
-class RefusedShapeTest : public testing::TestWithParam<RefusedCase> {};
+class RefusedShapeTest : public testing::TestWithParam<RefusedShapeCase> {};
 
 TEST_P(RefusedShapeTest, LeavesTheLastTest)
 {
@@ -246,11 +246,11 @@ TEST_P(RefusedShapeTest, LeavesTheLastTest)
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, RefusedShapeTest,
-                         testing::Values(RefusedCase{"format", SteelFamily::W, "W12x30"},
-                                         RefusedCase{"other family", SteelFamily::W, "S 8x 18.4"},
-                                         RefusedCase{"empty", SteelFamily::W, ""},
-                                         RefusedCase{"filler", SteelFamily::Tube, "xx"},
-                                         RefusedCase{"empty row", SteelFamily::DoublePlate, ""}),
+                         testing::Values(RefusedShapeCase{"format", SteelFamily::W, "W12x30"},
+                                         RefusedShapeCase{"other family", SteelFamily::W, "S 8x 18.4"},
+                                         RefusedShapeCase{"empty", SteelFamily::W, ""},
+                                         RefusedShapeCase{"filler", SteelFamily::Tube, "xx"},
+                                         RefusedShapeCase{"empty row", SteelFamily::DoublePlate, ""}),
                          CaseName);
 
 TEST(NamedShape, BeyondEveryRegimeIsRefused)

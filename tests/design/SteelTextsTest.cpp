@@ -18,7 +18,7 @@ using testing::EndsWith;
 using testing::Not;
 using testing::StartsWith;
 
-struct FamilyCase {
+struct SteelFamilyCase {
     SteelFamily Family;
     std::string_view Parts;
     std::string_view Example;
@@ -27,11 +27,11 @@ struct FamilyCase {
     std::string_view Grade50;
 };
 
-class FamilyTextsTest : public testing::TestWithParam<FamilyCase> {};
+class FamilyTextsTest : public testing::TestWithParam<SteelFamilyCase> {};
 
 TEST_P(FamilyTextsTest, TellFormatFamilyAndGrade)
 {
-    const FamilyCase& c = GetParam();
+    const SteelFamilyCase& c = GetParam();
     Session session = SteelSession(c.Family, "10", "100", "60");
     OpenedSelection(session);
     const SteelSelectionTexts texts = MakeSteelSelectionTexts(session);
@@ -46,22 +46,22 @@ TEST_P(FamilyTextsTest, TellFormatFamilyAndGrade)
 
 INSTANTIATE_TEST_SUITE_P(
     Families, FamilyTextsTest,
-    testing::Values(FamilyCase{SteelFamily::W, "Depth x Weight", "W 8x 18", "Wide flange",
-                               "   36 ksi Wide Flange Steel", "   50 ksi Wide Flange Steel"},
-                    FamilyCase{SteelFamily::S, "Depth x Weight", "S 8x 18.4", "Standard",
-                               "   36 ksi Std. Flange Steel", "   50 ksi Std. Flange Steel"},
-                    FamilyCase{SteelFamily::C, "Depth x Weight", "C 8x 8.5", "Channel",
-                               "   36 ksi Steel Channel", "   50 ksi Steel Channel"},
-                    FamilyCase{SteelFamily::MC, "Depth x Weight", "MC 8x 18.75", "Miscellaneous Channel",
-                               "   36 ksi Steel Misc Channel", "   50 ksi Steel Misc Channel"},
-                    FamilyCase{SteelFamily::Tube, "Depth x Breadth x Wall Thickness", "T 8x 6x 1/4",
-                               "Structural Tube", "   46 ksi Steel Tube", "   50 ksi Steel Tube"},
-                    FamilyCase{SteelFamily::Plate, "(Quantity > 1) - Depth x Breadth", "PL 9x 5/8",
-                               "Plate(s) for flitch beam", "   36 ksi steel flitch plate(s) ",
-                               "   50 ksi steel flitch plate(s) "},
-                    FamilyCase{SteelFamily::DoublePlate, "(Quantity > 1) - Depth x Breadth", "(2) PL 9x 5/8",
-                               "Plate(s) for flitch beam", "   36 ksi steel flitch plate(s) ",
-                               "   50 ksi steel flitch plate(s) "}),
+    testing::Values(SteelFamilyCase{SteelFamily::W, "Depth x Weight", "W 8x 18", "Wide flange",
+                                    "   36 ksi Wide Flange Steel", "   50 ksi Wide Flange Steel"},
+                    SteelFamilyCase{SteelFamily::S, "Depth x Weight", "S 8x 18.4", "Standard",
+                                    "   36 ksi Std. Flange Steel", "   50 ksi Std. Flange Steel"},
+                    SteelFamilyCase{SteelFamily::C, "Depth x Weight", "C 8x 8.5", "Channel",
+                                    "   36 ksi Steel Channel", "   50 ksi Steel Channel"},
+                    SteelFamilyCase{SteelFamily::MC, "Depth x Weight", "MC 8x 18.75", "Miscellaneous Channel",
+                                    "   36 ksi Steel Misc Channel", "   50 ksi Steel Misc Channel"},
+                    SteelFamilyCase{SteelFamily::Tube, "Depth x Breadth x Wall Thickness", "T 8x 6x 1/4",
+                                    "Structural Tube", "   46 ksi Steel Tube", "   50 ksi Steel Tube"},
+                    SteelFamilyCase{SteelFamily::Plate, "(Quantity > 1) - Depth x Breadth", "PL 9x 5/8",
+                                    "Plate(s) for flitch beam", "   36 ksi steel flitch plate(s) ",
+                                    "   50 ksi steel flitch plate(s) "},
+                    SteelFamilyCase{SteelFamily::DoublePlate, "(Quantity > 1) - Depth x Breadth",
+                                    "(2) PL 9x 5/8", "Plate(s) for flitch beam",
+                                    "   36 ksi steel flitch plate(s) ", "   50 ksi steel flitch plate(s) "}),
     CaseName);
 
 TEST(SteelSelectionTexts, TellTheAppliedLoads)

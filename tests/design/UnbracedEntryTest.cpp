@@ -35,17 +35,17 @@ TEST_P(FixedUnbracedTest, TakesTheBoxFromThePerson)
 
 constexpr auto Steel = SpeciesGroup::Steel;
 constexpr auto Wood = SpeciesGroup::HemFirDouglasFir;
-constexpr auto Simple = SupportCondition::SimpleSpan;
+constexpr auto SimpleSpan = SupportCondition::SimpleSpan;
 
 INSTANTIATE_TEST_SUITE_P(
     Materials, FixedUnbracedTest,
-    testing::Values(FixedCase{"wood, a tube once chosen", Wood, SteelFamily::Tube, Simple, std::nullopt},
-                    FixedCase{"W", Steel, SteelFamily::W, Simple, std::nullopt},
+    testing::Values(FixedCase{"wood, a tube once chosen", Wood, SteelFamily::Tube, SimpleSpan, std::nullopt},
+                    FixedCase{"W", Steel, SteelFamily::W, SimpleSpan, std::nullopt},
                     FixedCase{"C", Steel, SteelFamily::C, SupportCondition::Overhanging, std::nullopt},
-                    FixedCase{"tube", Steel, SteelFamily::Tube, Simple, "Any"},
-                    FixedCase{"plate", Steel, SteelFamily::Plate, Simple, "0"},
-                    FixedCase{"pair", Steel, SteelFamily::DoublePlate, Simple, "0"},
-                    FixedCase{"composite", SpeciesGroup::Scl, SteelFamily::W, Simple, "0"},
+                    FixedCase{"tube", Steel, SteelFamily::Tube, SimpleSpan, "Any"},
+                    FixedCase{"plate", Steel, SteelFamily::Plate, SimpleSpan, "0"},
+                    FixedCase{"pair", Steel, SteelFamily::DoublePlate, SimpleSpan, "0"},
+                    FixedCase{"composite", SpeciesGroup::Scl, SteelFamily::W, SimpleSpan, "0"},
                     FixedCase{"several spans", Wood, SteelFamily::W, SupportCondition::MultipleSpans, "0"},
                     FixedCase{"tube on several spans", Steel, SteelFamily::Tube,
                               SupportCondition::MultipleSpans, "0"}),

@@ -68,7 +68,7 @@ TEST(NotchTexts, TellAStressAndAReactionEachByItsNames)
     EXPECT_NEAR(reaction.Ratio.value(), 0.93005906, 1e-8);
 }
 
-struct MinimumCase {
+struct MinimumTextCase {
     std::string_view Name;
     NotchMember Member;
     NotchType Notch;
@@ -77,11 +77,11 @@ struct MinimumCase {
     std::string_view Text;
 };
 
-class NotchMinimumText : public testing::TestWithParam<MinimumCase> {};
+class NotchMinimumText : public testing::TestWithParam<MinimumTextCase> {};
 
 TEST_P(NotchMinimumText, NamesItsRuleBeforeAnyRun)
 {
-    const MinimumCase& test = GetParam();
+    const MinimumTextCase& test = GetParam();
     NotchEntry entry = PlainNotch(test.Member, test.Notch);
     entry.depthtextbox = test.Depth;
     EXPECT_EQ(DescribeNotch(NotchUnder(test.Year, entry)).DnMinimum, test.Text);
@@ -90,13 +90,13 @@ TEST_P(NotchMinimumText, NamesItsRuleBeforeAnyRun)
 INSTANTIATE_TEST_SUITE_P(
     Rules, NotchMinimumText,
     testing::Values(
-        MinimumCase{"sawn", Sawn, NotchType::Tension, 2018, "9.25", "3/4d = Minimum dn = 6.94 in."},
-        MinimumCase{"compression", Glulam, NotchType::Compression, 2005, "18",
-                    "3/5d = Minimum dn = 10.8 in."},
-        MinimumCase{"tapered", Glulam, NotchType::Tapered, 1997, "16.5", "1/3d = Minimum dn = 5.49 in."},
-        MinimumCase{"1997", Glulam, NotchType::Tension, 1997, "24", "9/10d = Minimum dn = 21.6 in."},
-        MinimumCase{"2005", Glulam, NotchType::Tension, 2005, "24", "d-3in. = Minimum dn = 21.0 in.."},
-        MinimumCase{"no depth", Log, NotchType::Tension, 2005, "", "3/4d = Minimum dn = "}),
+        MinimumTextCase{"sawn", Sawn, NotchType::Tension, 2018, "9.25", "3/4d = Minimum dn = 6.94 in."},
+        MinimumTextCase{"compression", Glulam, NotchType::Compression, 2005, "18",
+                        "3/5d = Minimum dn = 10.8 in."},
+        MinimumTextCase{"tapered", Glulam, NotchType::Tapered, 1997, "16.5", "1/3d = Minimum dn = 5.49 in."},
+        MinimumTextCase{"1997", Glulam, NotchType::Tension, 1997, "24", "9/10d = Minimum dn = 21.6 in."},
+        MinimumTextCase{"2005", Glulam, NotchType::Tension, 2005, "24", "d-3in. = Minimum dn = 21.0 in.."},
+        MinimumTextCase{"no depth", Log, NotchType::Tension, 2005, "", "3/4d = Minimum dn = "}),
     CaseName);
 
 TEST(NotchTexts, FollowWetUseBeforeAnyRun)

@@ -6,17 +6,17 @@
 #include "columns/SteelColumn.h"
 #include "columns/WoodColumn.h"
 #include "records/RecordBytes.h"
+#include "records/RecordDay.h"
 #include "support/ScriptedUser.h"
 
 namespace kordavan {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-constexpr CalendarDay Day{.Year = 2026, .Month = 3, .Day = 7};
 constexpr auto Wood = ColumnRecordKind::Wood;
 constexpr auto Steel = ColumnRecordKind::Steel;
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 constexpr std::string_view WoodNotKept = "The record of the wood column has been neither saved nor printed.";
 

@@ -16,8 +16,6 @@ using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 
-const ReportNoteLines FullNotes{"n1", "n2", "n3", "n4", "n5", "n6", "n7"};
-
 ColumnSheet FullSheet()
 {
     ColumnSheet sheet;
@@ -40,15 +38,6 @@ std::set<std::size_t> CellsOf(const RecordLayout& layout)
         }
     }
     return cells;
-}
-
-std::vector<std::string> TextsOf(const RecordPage& page)
-{
-    std::vector<std::string> texts;
-    for (const PageText& text : page.Texts) {
-        texts.push_back(text.Text);
-    }
-    return texts;
 }
 
 /// A stud of which each figure reads otherwise, all loads in use.

@@ -308,14 +308,14 @@ TEST(ColumnSheet, GivesItsHeadingBack)
     EXPECT_EQ(HeadingOnColumnSheet(sheet).Initials, "");
 }
 
-struct NumberCase {
+struct CellNumberCase {
     std::string_view Name;
     double Value;
     std::string_view Format;
     std::string_view Text;
 };
 
-class CellNumberTest : public testing::TestWithParam<NumberCase> {};
+class CellNumberTest : public testing::TestWithParam<CellNumberCase> {};
 
 TEST_P(CellNumberTest, KeepsAsMuchAsFits)
 {
@@ -324,15 +324,15 @@ TEST_P(CellNumberTest, KeepsAsMuchAsFits)
 
 INSTANTIATE_TEST_SUITE_P(
     ColumnSheet, CellNumberTest,
-    testing::Values(NumberCase{"as it is", 99999, "#,##0", "99,999"},
-                    NumberCase{"commas go first", 100000, "#,##0", "100000"},
-                    NumberCase{"then decimals", 1234.567, "#,##0.00", "1234.6"},
-                    NumberCase{"no point at the end", 1350, "#,##0.##", "1,350"},
-                    NumberCase{"a power of ten", 48e6, "#,##0", "4.8E7"},
-                    NumberCase{"rounding beyond six", 999999.5, "#,##0", "1.0E6"},
-                    NumberCase{"the greatest", std::numeric_limits<float>::max(), "0.0", "3.4E38"},
-                    NumberCase{"below zero", -1234567, "#,##0", "-1.2E6"},
-                    NumberCase{"not finite", std::numeric_limits<double>::infinity(), "0", ""}),
+    testing::Values(CellNumberCase{"as it is", 99999, "#,##0", "99,999"},
+                    CellNumberCase{"commas go first", 100000, "#,##0", "100000"},
+                    CellNumberCase{"then decimals", 1234.567, "#,##0.00", "1234.6"},
+                    CellNumberCase{"no point at the end", 1350, "#,##0.##", "1,350"},
+                    CellNumberCase{"a power of ten", 48e6, "#,##0", "4.8E7"},
+                    CellNumberCase{"rounding beyond six", 999999.5, "#,##0", "1.0E6"},
+                    CellNumberCase{"the greatest", std::numeric_limits<float>::max(), "0.0", "3.4E38"},
+                    CellNumberCase{"below zero", -1234567, "#,##0", "-1.2E6"},
+                    CellNumberCase{"not finite", std::numeric_limits<double>::infinity(), "0", ""}),
     CaseName);
 
 TEST(ColumnSheet, FitsRatiosIntoTheirCells)

@@ -10,10 +10,9 @@
 #include "records/CriteriaLayout.h"
 #include "records/CriteriaRecord.h"
 #include "records/RecordBytes.h"
+#include "records/RecordDay.h"
 
 namespace kordavan {
-
-inline constexpr CalendarDay Day{.Year = 2026, .Month = 3, .Day = 7};
 
 /// The 32-bit float nearest to 0.0001, as a file holds it.
 inline constexpr std::string_view HeldZeroBytes = "\x17\xB7\xD1\x38";

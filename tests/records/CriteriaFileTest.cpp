@@ -4,6 +4,7 @@
 
 #include "design/NewBeam.h"
 #include "records/RecordBytes.h"
+#include "records/RecordDay.h"
 #include "support/CaseName.h"
 #include "support/ScriptedUser.h"
 
@@ -14,15 +15,13 @@ using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;
 
-constexpr CalendarDay Day{.Year = 2026, .Month = 3, .Day = 7};
-
 constexpr std::string_view UnbalancedText =
     "Kordavan cannot save criteria when loads are unbalanced.  Please restore the loads by clicking the "
     "RESTORE button below the point loads entry boxes and then save the criteria.";
-constexpr std::string_view UnfitText =
+constexpr std::string_view UnfitCriteriaText =
     "A Beam Criteria file cannot hold the number in this box: it is too large, or a deflection limit that is "
     "no whole number.  Please change it and save again.";
-constexpr std::string_view WrongTagText =
+constexpr std::string_view WrongCriteriaText =
     "The Beam Criteria for this form could not be loaded.  Please check to see if you selected the "
     "appropriate file.\n"
     "\n"
@@ -92,14 +91,14 @@ TEST(LoadCriteriaFile, ReplacesTheBeamAndTellsTheEdition)
     EXPECT_TRUE(HasUnsavedEntries(session));
 }
 
-struct UnsavableCase {
+struct UnsavableCriteriaCase {
     std::string_view Name;
     void (*Spoil)(Session&);
     std::string_view Text;
     std::string_view Focus;
 };
 
-class UnsavableTest : public testing::TestWithParam<UnsavableCase> {};
+class UnsavableTest : public testing::TestWithParam<UnsavableCriteriaCase> {};
 
 TEST_P(UnsavableTest, IsRefusedBeforeAnyFileIsTouched)
 {
@@ -123,14 +122,15 @@ TEST_P(UnsavableTest, IsRefusedBeforeAnyFileIsTouched)
 
 INSTANTIATE_TEST_SUITE_P(
     Sessions, UnsavableTest,
-    testing::Values(UnsavableCase{"span unbalanced", [](Session& s) { s.Unbalanced.Span = true; },
-                                  UnbalancedText, ""},
-                    UnsavableCase{"overhang unbalanced", [](Session& s) { s.Unbalanced.Overhang = true; },
-                                  UnbalancedText, ""},
-                    UnsavableCase{"load too large", [](Session& s) { s.Problem.Loads.PT[2] = "1e300"; },
-                                  UnfitText, "PT[2]"},
-                    UnsavableCase{"limit with a fraction", [](Session& s) { s.Problem.MaxDefl = "240.5"; },
-                                  UnfitText, "MaxDefl"}),
+    testing::Values(
+        UnsavableCriteriaCase{"span unbalanced", [](Session& s) { s.Unbalanced.Span = true; }, UnbalancedText,
+                              ""},
+        UnsavableCriteriaCase{"overhang unbalanced", [](Session& s) { s.Unbalanced.Overhang = true; },
+                              UnbalancedText, ""},
+        UnsavableCriteriaCase{"load too large", [](Session& s) { s.Problem.Loads.PT[2] = "1e300"; },
+                              UnfitCriteriaText, "PT[2]"},
+        UnsavableCriteriaCase{"limit with a fraction", [](Session& s) { s.Problem.MaxDefl = "240.5"; },
+                              UnfitCriteriaText, "MaxDefl"}),
     CaseName);
 
 TEST(CheckCriteriaSavable, SaysNothingOfEntriesThatFit)
@@ -155,12 +155,12 @@ TEST(SaveCriteriaFile, TellsAFaultAndKeepsTheEntriesUnsaved)
     EXPECT_TRUE(HasUnsavedEntries(session));
 }
 
-struct WrongFileCase {
+struct WrongCriteriaCase {
     std::string_view Name;
     std::string Bytes;
 };
 
-class WrongFileTest : public testing::TestWithParam<WrongFileCase> {};
+class WrongFileTest : public testing::TestWithParam<WrongCriteriaCase> {};
 
 TEST_P(WrongFileTest, IsNoCriteriaAndChangesNothing)
 {
@@ -171,20 +171,21 @@ TEST_P(WrongFileTest, IsNoCriteriaAndChangesNothing)
     ScriptedUser user;
     EXPECT_EQ(LoadCriteriaFile(session, path, user), Outcome::Refused);
     EXPECT_THAT(user.Told,
-                ElementsAre(testing::AllOf(RefusalOf(WrongTagText), Field(&Message::Title, "Kordavan"),
+                ElementsAre(testing::AllOf(RefusalOf(WrongCriteriaText), Field(&Message::Title, "Kordavan"),
                                            Field(&Message::Icon, MessageIcon::Warning))));
     ExpectBeamSession(session);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Files, WrongFileTest,
-    testing::Values(WrongFileCase{"empty", ""}, WrongFileCase{"half a tag", "\xF5"},
-                    WrongFileCase{"data record", RecordBytes(1613).Short(0, 555).All()},
-                    WrongFileCase{"defaults", RecordBytes(322).Short(0, 4321).All()},
-                    WrongFileCase{"next tag below", RecordBytes(1613).Short(0, -14).All()},
-                    WrongFileCase{"tag without its sign", RecordBytes(1613).Short(0, 2007).All()},
-                    WrongFileCase{"tag with its bytes swapped", RecordBytes(1613).Text(0, "\xF8\x29").All()},
-                    WrongFileCase{"text", "Beam B1, ridge"}),
+    testing::Values(WrongCriteriaCase{"empty", ""}, WrongCriteriaCase{"half a tag", "\xF5"},
+                    WrongCriteriaCase{"data record", RecordBytes(1613).Short(0, 555).All()},
+                    WrongCriteriaCase{"defaults", RecordBytes(322).Short(0, 4321).All()},
+                    WrongCriteriaCase{"next tag below", RecordBytes(1613).Short(0, -14).All()},
+                    WrongCriteriaCase{"tag without its sign", RecordBytes(1613).Short(0, 2007).All()},
+                    WrongCriteriaCase{"tag with its bytes swapped",
+                                      RecordBytes(1613).Text(0, "\xF8\x29").All()},
+                    WrongCriteriaCase{"text", "Beam B1, ridge"}),
     CaseName);
 
 TEST(LoadCriteriaFile, TellsAFileThatCannotBeRead)

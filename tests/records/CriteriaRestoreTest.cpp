@@ -107,7 +107,7 @@ TEST(RestoreCriteria, TakesAShortFileAsFarAsItGoes)
     EXPECT_FALSE(session.Selection);
 }
 
-struct NumberCase {
+struct HeldNumberCase {
     std::string_view Name;
     std::size_t Offset;
     float Held;
@@ -115,28 +115,28 @@ struct NumberCase {
     std::string_view Text;
 };
 
-class RestoredNumberTest : public testing::TestWithParam<NumberCase> {};
+class RestoredNumberTest : public testing::TestWithParam<HeldNumberCase> {};
 
 TEST_P(RestoredNumberTest, ReadsAsItWasTyped)
 {
-    const NumberCase& c = GetParam();
+    const HeldNumberCase& c = GetParam();
     const Session session = Restored(BlankCriteria(-2007).Float(c.Offset, c.Held).All());
     EXPECT_EQ(session.Problem.*c.Box, c.Text);
 }
 
-INSTANTIATE_TEST_SUITE_P(Boxes, RestoredNumberTest,
-                         testing::Values(NumberCase{"no duration", 96, 0, &BeamProblem::Dur, ""},
-                                         NumberCase{"normal duration", 96, 1, &BeamProblem::Dur, "1.00"},
-                                         NumberCase{"snow", 96, 1.15F, &BeamProblem::Dur, "1.15"},
-                                         NumberCase{"permanent", 96, 0.9F, &BeamProblem::Dur, "0.9"},
-                                         NumberCase{"span of 1", 92, 1, &BeamProblem::Span, "1"},
-                                         NumberCase{"no span", 92, 0, &BeamProblem::Span, ""},
-                                         NumberCase{"negative span", 92, -3.5F, &BeamProblem::Span, "-3.5"},
-                                         NumberCase{"long span", 92, 1e9F, &BeamProblem::Span, "1000000000"},
-                                         NumberCase{"braced", 556, 0, &BeamProblem::UBLtext, ""},
-                                         NumberCase{"held zero elsewhere", 92, 0.0001F, &BeamProblem::Span,
-                                                    "0.0001"}),
-                         CaseName);
+INSTANTIATE_TEST_SUITE_P(
+    Boxes, RestoredNumberTest,
+    testing::Values(HeldNumberCase{"no duration", 96, 0, &BeamProblem::Dur, ""},
+                    HeldNumberCase{"normal duration", 96, 1, &BeamProblem::Dur, "1.00"},
+                    HeldNumberCase{"snow", 96, 1.15F, &BeamProblem::Dur, "1.15"},
+                    HeldNumberCase{"permanent", 96, 0.9F, &BeamProblem::Dur, "0.9"},
+                    HeldNumberCase{"span of 1", 92, 1, &BeamProblem::Span, "1"},
+                    HeldNumberCase{"no span", 92, 0, &BeamProblem::Span, ""},
+                    HeldNumberCase{"negative span", 92, -3.5F, &BeamProblem::Span, "-3.5"},
+                    HeldNumberCase{"long span", 92, 1e9F, &BeamProblem::Span, "1000000000"},
+                    HeldNumberCase{"braced", 556, 0, &BeamProblem::UBLtext, ""},
+                    HeldNumberCase{"held zero elsewhere", 92, 0.0001F, &BeamProblem::Span, "0.0001"}),
+    CaseName);
 
 TEST(RestoreCriteria, TellsAStartOfZeroFromAnEmptyRow)
 {

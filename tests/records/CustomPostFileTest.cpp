@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;
 
-constexpr std::string_view WrongTagText =
+constexpr std::string_view WrongPostText =
     "Cannot load the selected values. Please verify you are loading Custom Wood Post values with the *.CPV "
     "extension";
 constexpr std::string_view UnfitEText =
@@ -47,7 +47,7 @@ ColumnEntry Hackberry()
 }
 
 /// An entry with something in boxes that a file may change or must leave.
-ColumnEntry OldEntry()
+ColumnEntry OldPost()
 {
     ColumnEntry entry;
     entry.cReacText = "9000";
@@ -69,7 +69,7 @@ TEST(CustomPost, IsWrittenAtItsPlacesAndReadAgain)
     EXPECT_EQ(HackberryBytes().size(), 38U);
     EXPECT_EQ(FirstDifference(FileBytes(path), HackberryBytes()), "");
     EXPECT_EQ(folder.FileCount(), 1U);
-    ColumnEntry loaded = OldEntry();
+    ColumnEntry loaded = OldPost();
     ScriptedUser silent;
     EXPECT_EQ(LoadCustomPost(path, loaded, silent), Outcome::Done);
     EXPECT_THAT(silent.Told, IsEmpty());
@@ -86,7 +86,7 @@ TEST(CustomPost, OfALongNameIsCut)
     EXPECT_EQ(MakeCustomPostRecord(entry).Text("SpeciesText"), "Hackberry from the north slope");
 }
 
-struct UnsavableCase {
+struct UnsavablePostCase {
     std::string_view Name;
     std::string ColumnEntry::*Text;
     std::string Typed;
@@ -94,7 +94,7 @@ struct UnsavableCase {
     std::string_view Focus;
 };
 
-class UnsavablePostTest : public testing::TestWithParam<UnsavableCase> {};
+class UnsavablePostTest : public testing::TestWithParam<UnsavablePostCase> {};
 
 TEST_P(UnsavablePostTest, IsRefusedBeforeAnyFileIsTouched)
 {
@@ -118,20 +118,21 @@ constexpr auto Fc = &ColumnEntry::cFcText;
 
 INSTANTIATE_TEST_SUITE_P(
     Entries, UnsavablePostTest,
-    testing::Values(UnsavableCase{"Custom", Species, "Custom", IsCustomText, "ColSpeciesCombo"},
-                    UnsavableCase{"Custom and a blank", Species, "Custom ", IsCustomText, "ColSpeciesCombo"},
-                    UnsavableCase{"no species", Species, "", NoSpeciesText, "ColSpeciesCombo"},
-                    UnsavableCase{"blank species", Species, "  ", NoSpeciesText, "ColSpeciesCombo"},
-                    UnsavableCase{"no E", E, "", NoEText, "cEtext"},
-                    UnsavableCase{"E of letters", E, "high", NoEText, "cEtext"},
-                    UnsavableCase{"E that a float drops", E, "1e-60", NoEText, "cEtext"},
-                    UnsavableCase{"E too large", E, "1e39", UnfitEText, "cEtext"},
-                    UnsavableCase{"E with a unit", E, "1.6 million", UnfitEText, "cEtext"},
-                    UnsavableCase{"no Fc", Fc, " ", NoFcText, "cFcText"},
-                    UnsavableCase{"Fc of 0", Fc, "0", NoFcText, "cFcText"},
-                    UnsavableCase{"Fc with a fraction", Fc, "1450.5", UnfitFcText, "cFcText"},
-                    UnsavableCase{"Fc with a comma", Fc, "1,450", UnfitFcText, "cFcText"},
-                    UnsavableCase{"Fc past 16 bits", Fc, "32768", UnfitFcText, "cFcText"}),
+    testing::Values(UnsavablePostCase{"Custom", Species, "Custom", IsCustomText, "ColSpeciesCombo"},
+                    UnsavablePostCase{"Custom and a blank", Species, "Custom ", IsCustomText,
+                                      "ColSpeciesCombo"},
+                    UnsavablePostCase{"no species", Species, "", NoSpeciesText, "ColSpeciesCombo"},
+                    UnsavablePostCase{"blank species", Species, "  ", NoSpeciesText, "ColSpeciesCombo"},
+                    UnsavablePostCase{"no E", E, "", NoEText, "cEtext"},
+                    UnsavablePostCase{"E of letters", E, "high", NoEText, "cEtext"},
+                    UnsavablePostCase{"E that a float drops", E, "1e-60", NoEText, "cEtext"},
+                    UnsavablePostCase{"E too large", E, "1e39", UnfitEText, "cEtext"},
+                    UnsavablePostCase{"E with a unit", E, "1.6 million", UnfitEText, "cEtext"},
+                    UnsavablePostCase{"no Fc", Fc, " ", NoFcText, "cFcText"},
+                    UnsavablePostCase{"Fc of 0", Fc, "0", NoFcText, "cFcText"},
+                    UnsavablePostCase{"Fc with a fraction", Fc, "1450.5", UnfitFcText, "cFcText"},
+                    UnsavablePostCase{"Fc with a comma", Fc, "1,450", UnfitFcText, "cFcText"},
+                    UnsavablePostCase{"Fc past 16 bits", Fc, "32768", UnfitFcText, "cFcText"}),
     CaseName);
 
 TEST(CustomPost, IsAskedForItsSpeciesThenItsEThenItsFc)
@@ -149,24 +150,24 @@ TEST(CustomPost, IsAskedForItsSpeciesThenItsEThenItsFc)
                                        RefusalOf(NoEText, "cEtext"), RefusalOf(NoFcText, "cFcText")));
 }
 
-struct WrongFileCase {
+struct WrongPostCase {
     std::string_view Name;
     std::string Bytes;
-    std::string_view Text = WrongTagText;
+    std::string_view Text = WrongPostText;
 };
 
-class WrongPostTest : public testing::TestWithParam<WrongFileCase> {};
+class WrongPostTest : public testing::TestWithParam<WrongPostCase> {};
 
 TEST_P(WrongPostTest, ChangesNothing)
 {
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.CPV");
     PutFile(path, GetParam().Bytes);
-    ColumnEntry entry = OldEntry();
+    ColumnEntry entry = OldPost();
     ScriptedUser user;
     EXPECT_EQ(LoadCustomPost(path, entry, user), Outcome::Refused);
     EXPECT_THAT(user.Told, ElementsAre(RefusalOf(GetParam().Text)));
-    EXPECT_EQ(entry, OldEntry());
+    EXPECT_EQ(entry, OldPost());
     EXPECT_EQ(FileBytes(path), GetParam().Bytes);
 }
 
@@ -181,12 +182,12 @@ constexpr std::string_view NoNumberText =
 
 INSTANTIATE_TEST_SUITE_P(
     Files, WrongPostTest,
-    testing::Values(WrongFileCase{"empty", ""}, WrongFileCase{"half a tag", "d"},
-                    WrongFileCase{"other tag", Spoilt(0, "\x65")},
-                    WrongFileCase{"tag with a high byte", Spoilt(1, "\x01")},
-                    WrongFileCase{"custom values", Spoilt(0, "\xFF\xFF")},
-                    WrongFileCase{"E no number", Spoilt(4, {"\0\0\xC0\x7F", 4}), NoNumberText},
-                    WrongFileCase{"E infinite", Spoilt(4, {"\0\0\x80\xFF", 4}), NoNumberText}),
+    testing::Values(WrongPostCase{"empty", ""}, WrongPostCase{"half a tag", "d"},
+                    WrongPostCase{"other tag", Spoilt(0, "\x65")},
+                    WrongPostCase{"tag with a high byte", Spoilt(1, "\x01")},
+                    WrongPostCase{"custom values", Spoilt(0, "\xFF\xFF")},
+                    WrongPostCase{"E no number", Spoilt(4, {"\0\0\xC0\x7F", 4}), NoNumberText},
+                    WrongPostCase{"E infinite", Spoilt(4, {"\0\0\x80\xFF", 4}), NoNumberText}),
     CaseName);
 
 TEST(CustomPost, OfACutFileIsTakenAsFarAsItGoes)
@@ -194,7 +195,7 @@ TEST(CustomPost, OfACutFileIsTakenAsFarAsItGoes)
     const TemporaryFolder folder;
     const std::string path = folder.Path("a.CPV");
     PutFile(path, HackberryBytes().substr(0, 7));  // within E
-    ColumnEntry entry = OldEntry();
+    ColumnEntry entry = OldPost();
     ScriptedUser user;
     EXPECT_EQ(LoadCustomPost(path, entry, user), Outcome::Done);
     EXPECT_EQ(entry.cFcText, "1450");

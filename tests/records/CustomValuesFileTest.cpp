@@ -21,10 +21,10 @@ using testing::IsEmpty;
 constexpr std::string_view ForSclText =
     "Please use the Save Default button to save SCL values. Use 'File, Save Values' for solid lumber and "
     "glu-lams only.";
-constexpr std::string_view UnfitText =
+constexpr std::string_view UnfitValuesText =
     "A Custom Value file cannot hold what is in this box: it is no number, or too large.  Please change it "
     "and save again.";
-constexpr std::string_view WrongTagText =
+constexpr std::string_view WrongValuesText =
     "The selected file does not contain Kordavan Custom Values.  Please check to see if you selected the "
     "appropriate file.\n"
     "\n"
@@ -71,7 +71,7 @@ MemberEntry HeaderEntry()
 }
 
 /// An entry with something in every box that a file may change or must leave.
-MemberEntry OldEntry()
+MemberEntry OldMember()
 {
     MemberEntry entry;
     entry.BreadthText = "5-1/8x";
@@ -127,7 +127,7 @@ TEST(CustomValues, AreWrittenAtTheirPlacesAndReadAgain)
     EXPECT_EQ(FirstDifference(FileBytes(path), HeaderValues().All()), "");
     EXPECT_EQ(folder.FileCount(), 1U);
     Session loaded;
-    loaded.Entry = OldEntry();
+    loaded.Entry = OldMember();
     EXPECT_EQ(LoadCustomValues(loaded, path, user), Outcome::Done);
     MemberEntry expected = HeaderEntry();  // sizes and laminations were those of another family
     expected.Custom.Diam = "8";
@@ -160,18 +160,18 @@ TEST(CustomValues, HaveAPlaceForEachFlag)
     }
 }
 
-struct NumberCase {
+struct ValueCase {
     std::string_view Name;
     std::string Typed;
     float Held;
     std::string_view Shown;
 };
 
-class CustomNumberTest : public testing::TestWithParam<NumberCase> {};
+class CustomNumberTest : public testing::TestWithParam<ValueCase> {};
 
 TEST_P(CustomNumberTest, IsHeldAsAFloatAndShownPlainly)
 {
-    const NumberCase& c = GetParam();
+    const ValueCase& c = GetParam();
     MemberEntry entry;
     entry.Custom.E = c.Typed;
     const CustomValuesRecordMade made = MakeCustomValuesRecord(entry);
@@ -183,22 +183,22 @@ TEST_P(CustomNumberTest, IsHeldAsAFloatAndShownPlainly)
 }
 
 INSTANTIATE_TEST_SUITE_P(Texts, CustomNumberTest,
-                         testing::Values(NumberCase{"decimal", "1.6", 1.6F, "1.6"},
-                                         NumberCase{"more than a float", "1.60000001", 1.6F, "1.6"},
-                                         NumberCase{"negative", "-1.5", -1.5F, "-1.5"},
-                                         NumberCase{"largest", "3.4e38", 3.4e38F, "3.4e+38"},
-                                         NumberCase{"zero", "0.0", 0, ""}, NumberCase{"empty", "", 0, ""},
-                                         NumberCase{"blanks", "  ", 0, ""}),
+                         testing::Values(ValueCase{"decimal", "1.6", 1.6F, "1.6"},
+                                         ValueCase{"more than a float", "1.60000001", 1.6F, "1.6"},
+                                         ValueCase{"negative", "-1.5", -1.5F, "-1.5"},
+                                         ValueCase{"largest", "3.4e38", 3.4e38F, "3.4e+38"},
+                                         ValueCase{"zero", "0.0", 0, ""}, ValueCase{"empty", "", 0, ""},
+                                         ValueCase{"blanks", "  ", 0, ""}),
                          CaseName);
 
-struct UnsavableCase {
+struct UnsavableValuesCase {
     std::string_view Name;
     void (*Spoil)(Session&);
     std::string_view Text;
     std::string_view Focus;
 };
 
-class UnsavableValuesTest : public testing::TestWithParam<UnsavableCase> {};
+class UnsavableValuesTest : public testing::TestWithParam<UnsavableValuesCase> {};
 
 TEST_P(UnsavableValuesTest, AreRefusedBeforeAnyFileIsTouched)
 {
@@ -220,13 +220,15 @@ TEST_P(UnsavableValuesTest, AreRefusedBeforeAnyFileIsTouched)
 INSTANTIATE_TEST_SUITE_P(
     Sessions, UnsavableValuesTest,
     testing::Values(
-        UnsavableCase{"SCL", [](Session& s) { s.Problem.Combo1 = SpeciesGroup::Scl; }, ForSclText, ""},
-        UnsavableCase{"Fb too large", [](Session& s) { s.Entry.Custom.Fb = "1e39"; }, UnfitText, "Text1"},
-        UnsavableCase{"Fv a word", [](Session& s) { s.Entry.Custom.Fv = "high"; }, UnfitText, "Text2"},
-        UnsavableCase{"Fc with a comma", [](Session& s) { s.Entry.Custom.FcPerp = "1,200"; }, UnfitText,
-                      "Text3"},
-        UnsavableCase{"two of them", [](Session& s) { s.Entry.Custom.Fv = s.Entry.Custom.E = "x"; },
-                      UnfitText, "Text2"}),
+        UnsavableValuesCase{"SCL", [](Session& s) { s.Problem.Combo1 = SpeciesGroup::Scl; }, ForSclText, ""},
+        UnsavableValuesCase{"Fb too large", [](Session& s) { s.Entry.Custom.Fb = "1e39"; }, UnfitValuesText,
+                            "Text1"},
+        UnsavableValuesCase{"Fv a word", [](Session& s) { s.Entry.Custom.Fv = "high"; }, UnfitValuesText,
+                            "Text2"},
+        UnsavableValuesCase{"Fc with a comma", [](Session& s) { s.Entry.Custom.FcPerp = "1,200"; },
+                            UnfitValuesText, "Text3"},
+        UnsavableValuesCase{"two of them", [](Session& s) { s.Entry.Custom.Fv = s.Entry.Custom.E = "x"; },
+                            UnfitValuesText, "Text2"}),
     CaseName);
 
 TEST(CustomValues, ThatCannotBeSavedOrReadAreToldWithTheReason)
@@ -234,7 +236,7 @@ TEST(CustomValues, ThatCannotBeSavedOrReadAreToldWithTheReason)
     const TemporaryFolder folder;
     const std::string path = folder.Path("gone/a.VAL");
     Session session;
-    session.Entry = OldEntry();
+    session.Entry = OldMember();
     ScriptedUser user;
     EXPECT_EQ(SaveCustomValues(session, path, user), Outcome::Refused);
     EXPECT_EQ(LoadCustomValues(session, path, user), Outcome::Refused);
@@ -243,29 +245,29 @@ TEST(CustomValues, ThatCannotBeSavedOrReadAreToldWithTheReason)
         ElementsAre(RefusalOf("This file could not be saved; what stood in it is unchanged:\n    " + path +
                               "\nNo such file or directory"),
                     RefusalOf("This file could not be read:\n    " + path + "\nNo such file or directory")));
-    EXPECT_EQ(Boxes(session.Entry), Boxes(OldEntry()));
+    EXPECT_EQ(Boxes(session.Entry), Boxes(OldMember()));
     EXPECT_EQ(folder.FileCount(), 0U);
 }
 
-struct WrongFileCase {
+struct WrongValuesCase {
     std::string_view Name;
     std::string Bytes;
-    std::string_view Text = WrongTagText;
+    std::string_view Text = WrongValuesText;
     MessageIcon Icon = MessageIcon::Warning;
 };
 
-class WrongValuesTest : public testing::TestWithParam<WrongFileCase> {};
+class WrongValuesTest : public testing::TestWithParam<WrongValuesCase> {};
 
 TEST_P(WrongValuesTest, ChangeNothing)
 {
     Session session;
-    session.Entry = OldEntry();
+    session.Entry = OldMember();
     session.Problem.Rep = true;
     ScriptedUser user;
     EXPECT_EQ(LoadBytes(GetParam().Bytes, session, user), Outcome::Refused);
     EXPECT_THAT(user.Told, ElementsAre(AllOf(RefusalOf(GetParam().Text), Field(&Message::Title, "Kordavan"),
                                              Field(&Message::Icon, GetParam().Icon))));
-    EXPECT_EQ(Boxes(session.Entry), Boxes(OldEntry()));
+    EXPECT_EQ(Boxes(session.Entry), Boxes(OldMember()));
 }
 
 constexpr std::string_view NoNumberBytes("\0\0\xC0\x7F", 4);
@@ -273,29 +275,29 @@ constexpr std::string_view InfiniteBytes("\0\0\x80\xFF", 4);
 
 INSTANTIATE_TEST_SUITE_P(
     Files, WrongValuesTest,
-    testing::Values(WrongFileCase{"empty", ""}, WrongFileCase{"half a tag", "\xFF"},
-                    WrongFileCase{"no tag", HeaderValues().Short(0, 0).All()},
-                    WrongFileCase{"tag without its sign", HeaderValues().Short(0, 1).All()},
-                    WrongFileCase{"criteria", HeaderValues().Short(0, -2007).All()},
-                    WrongFileCase{"text", "Hackberry"},
-                    WrongFileCase{
-                        "Fb no number", HeaderValues().Text(2, NoNumberBytes).All(),
+    testing::Values(
+        WrongValuesCase{"empty", ""}, WrongValuesCase{"half a tag", "\xFF"},
+        WrongValuesCase{"no tag", HeaderValues().Short(0, 0).All()},
+        WrongValuesCase{"tag without its sign", HeaderValues().Short(0, 1).All()},
+        WrongValuesCase{"criteria", HeaderValues().Short(0, -2007).All()},
+        WrongValuesCase{"text", "Hackberry"},
+        WrongValuesCase{"Fb no number", HeaderValues().Text(2, NoNumberBytes).All(),
                         "This Custom Value file holds a value that is no number (Fb), so it was not "
                         "loaded.",
                         MessageIcon::None},
-                    WrongFileCase{"E infinite", HeaderValues().Text(14, InfiniteBytes).All(),
-                                  "This Custom Value file holds a value that is no number (E), so it was not "
-                                  "loaded.",
-                                  MessageIcon::None}),
+        WrongValuesCase{"E infinite", HeaderValues().Text(14, InfiniteBytes).All(),
+                        "This Custom Value file holds a value that is no number (E), so it was not "
+                        "loaded.",
+                        MessageIcon::None}),
     CaseName);
 
 TEST(CustomValues, OfACutFileAreTakenAsFarAsTheyGo)
 {
     Session session;
-    session.Entry = OldEntry();
+    session.Entry = OldMember();
     AgreeingUser user;
     EXPECT_EQ(LoadBytes(HeaderValues().All().substr(0, 17), session, user), Outcome::Done);  // within E
-    MemberEntry expected = OldEntry();
+    MemberEntry expected = OldMember();
     expected.BreadthText = expected.DepthText = expected.SpeciesText = "";
     expected.Custom = {.Fb = "2400", .Fv = "265.5", .E = "", .FcPerp = "650", .Diam = "8"};
     expected.Custom.Exponent = "0.1";
@@ -312,12 +314,12 @@ TEST(CustomValues, OfSeveralFamiliesTakeTheLast)
     EXPECT_EQ(Boxes(session.Entry), Boxes(expected));
 }
 
-struct EditionCase {
+struct ValuesEditionCase {
     std::string_view Year;
     std::string_view Procedures;
 };
 
-class CustomEditionTest : public testing::TestWithParam<EditionCase> {};
+class CustomEditionTest : public testing::TestWithParam<ValuesEditionCase> {};
 
 TEST_P(CustomEditionTest, IsAskedAboutAndTheValuesAreLoadedEitherWay)
 {
@@ -346,10 +348,10 @@ TEST_P(CustomEditionTest, IsAskedAboutAndTheValuesAreLoadedEitherWay)
 }
 
 INSTANTIATE_TEST_SUITE_P(Editions, CustomEditionTest,
-                         testing::Values(EditionCase{"1997", "1997"}, EditionCase{"2001", "2001"},
-                                         EditionCase{"2005", "2005"}, EditionCase{"2012", "2012"},
-                                         EditionCase{"2015", "2005"},  // deliberately
-                                         EditionCase{"2018", "2018"}));
+                         testing::Values(ValuesEditionCase{"1997", "1997"}, ValuesEditionCase{"2001", "2001"},
+                                         ValuesEditionCase{"2005", "2005"}, ValuesEditionCase{"2012", "2012"},
+                                         ValuesEditionCase{"2015", "2005"},  // deliberately
+                                         ValuesEditionCase{"2018", "2018"}));
 
 TEST(CustomValues, AreNotAskedAboutWhereNoEditionIsKnown)
 {

@@ -17,7 +17,7 @@ using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;
 
-constexpr std::string_view WrongTagText =
+constexpr std::string_view WrongRecordText =
     "The file you have selected does not contain a Kordavan Data Record.  Please check to see if you "
     "selected the appropriate file type.\n\n"
     "Beam Data Records have a default extension of *.DAT\n\n"
@@ -45,7 +45,7 @@ DataSheet DistinctSheet()
     return sheet;
 }
 
-const RecordHeading Heading{.Project = "Barn", .Description = "Ridge beam", .BeamId = "B-1"};
+const RecordHeading BarnHeading{.Project = "Barn", .Description = "Ridge beam", .BeamId = "B-1"};
 
 Outcome OpenBytes(std::string_view bytes, DataSheet& sheet, UserPort& user)
 {
@@ -116,7 +116,7 @@ TEST(DataRecord, HoldsHeadingHeaderNotesAndSteelAtTheirPlaces)
     RecordBytes bytes = BlankRecord();
     bytes.Text(2, "Barn").Text(62, "Ridge beam").Text(122, "B-1").Text(2732, "second header line");
     bytes.Text(3662, std::string(85, 'n')).Text(4172, "last note").Text(4257, "At Point Loads:").On(4567);
-    EXPECT_EQ(FirstDifference(MakeDataRecord(sheet, Heading).Bytes(), bytes.All()), "");
+    EXPECT_EQ(FirstDifference(MakeDataRecord(sheet, BarnHeading).Bytes(), bytes.All()), "");
 }
 
 /// True of the cells in the blocks, but for the blank slots, and of those with slots of their own.
@@ -130,7 +130,7 @@ bool IsKept(std::size_t label)
 
 TEST(DataRecord, HoldsEveryCellButThoseThatStandOnEverySheet)
 {
-    const PackedRecord record = MakeDataRecord(DistinctSheet(), Heading);
+    const PackedRecord record = MakeDataRecord(DistinctSheet(), BarnHeading);
     EXPECT_EQ(record.Bytes().substr(582, 80), std::string(80, ' '));   // Label19 to 22: 462 + 6 x 20
     EXPECT_EQ(record.Bytes().substr(2142, 20), std::string(20, ' '));  // Label108: 1202 + 47 x 20
     DataSheet sheet;
@@ -144,7 +144,7 @@ TEST(DataRecord, HoldsEveryCellButThoseThatStandOnEverySheet)
     EXPECT_EQ(sheet.ReportNotes, DistinctSheet().ReportNotes);
 }
 
-struct KindCase {
+struct RecordKindCase {
     std::string_view Name;
     int Tag;
     bool IsMarkedSteel;
@@ -153,13 +153,13 @@ struct KindCase {
     bool HasSpareCells;
 };
 
-class DataRecordKindTest : public testing::TestWithParam<KindCase> {};
+class DataRecordKindTest : public testing::TestWithParam<RecordKindCase> {};
 
 TEST_P(DataRecordKindTest, DecidesWhatTheSheetShows)
 {
-    const KindCase& c = GetParam();
+    const RecordKindCase& c = GetParam();
     RecordBytes bytes(4809);
-    bytes.Text(0, MakeDataRecord(DistinctSheet(), Heading).Bytes()).Short(0, c.Tag).Blanks(4547, 20);
+    bytes.Text(0, MakeDataRecord(DistinctSheet(), BarnHeading).Bytes()).Short(0, c.Tag).Blanks(4547, 20);
     bytes.Short(4567, c.IsMarkedSteel ? -1 : 0).Text(582, "of no cell");
     const DataSheet sheet = Opened(bytes, DistinctSheet());
     EXPECT_EQ(sheet.IsSteel, c.IsSteel);
@@ -182,11 +182,11 @@ TEST_P(DataRecordKindTest, DecidesWhatTheSheetShows)
 }
 
 INSTANTIATE_TEST_SUITE_P(Records, DataRecordKindTest,
-                         testing::Values(KindCase{"wood", 556, false, false, true, true},
-                                         KindCase{"steel", 556, true, true, false, true},
-                                         KindCase{"old", 555, false, false, false, false},
-                                         KindCase{"old, where the flag means nothing", 555, true, false,
-                                                  false, false}),
+                         testing::Values(RecordKindCase{"wood", 556, false, false, true, true},
+                                         RecordKindCase{"steel", 556, true, true, false, true},
+                                         RecordKindCase{"old", 555, false, false, false, false},
+                                         RecordKindCase{"old, where the flag means nothing", 555, true, false,
+                                                        false, false}),
                          CaseName);
 
 TEST(DataRecord, OfWoodShowsTheFactorThatSteelHid)
@@ -229,8 +229,9 @@ TEST(DataRecord, OfAnotherTagLeavesTheSheet)
         DataSheet sheet = DistinctSheet();
         ScriptedUser user;
         EXPECT_EQ(OpenBytes(bytes, sheet, user), Outcome::Refused);
-        EXPECT_THAT(user.Told, ElementsAre(AllOf(RefusalOf(WrongTagText), Field(&Message::Title, "Kordavan"),
-                                                 Field(&Message::Icon, MessageIcon::Warning))));
+        EXPECT_THAT(user.Told,
+                    ElementsAre(AllOf(RefusalOf(WrongRecordText), Field(&Message::Title, "Kordavan"),
+                                      Field(&Message::Icon, MessageIcon::Warning))));
         EXPECT_EQ(sheet, DistinctSheet());
     }
 }
@@ -263,7 +264,7 @@ TEST(DataRecord, ThatCannotBeSavedOrReadIsToldWithTheReason)
     const std::string path = folder.Path("gone/a.Dat");
     DataSheet sheet = DistinctSheet();
     ScriptedUser user;
-    EXPECT_EQ(SaveDataRecord(sheet, Heading, path, user), Outcome::Refused);
+    EXPECT_EQ(SaveDataRecord(sheet, BarnHeading, path, user), Outcome::Refused);
     EXPECT_EQ(OpenDataRecord(path, sheet, user), Outcome::Refused);
     const std::string reason = "\n    " + path + "\nNo such file or directory";
     EXPECT_THAT(

@@ -8,7 +8,7 @@ namespace kordavan {
 namespace {
 
 /// Every cell of the sheet, each with a text of its own and all notes.
-DataSheet FullSheet()
+DataSheet FullBeamSheet()
 {
     DataSheet sheet;
     for (std::size_t label = 1; label < DataSheet::LabelCount; ++label) {
@@ -23,7 +23,7 @@ class RecordPageTest : public testing::TestWithParam<bool> {};
 
 TEST_P(RecordPageTest, HoldsEveryCellOnceWithinTheMargins)
 {
-    const RecordPage page = LayOutDataRecord(FullSheet(), {.HighDpi = GetParam()});
+    const RecordPage page = LayOutDataRecord(FullBeamSheet(), {.HighDpi = GetParam()});
     ExpectWithinMargins(page);
     constexpr std::size_t cellsOfTheSheet = 181;  // 194 numbers less the 13 that name no cell
     EXPECT_EQ(CellsOnce(page).size(), cellsOfTheSheet);
@@ -35,7 +35,7 @@ INSTANTIATE_TEST_SUITE_P(Layouts, RecordPageTest, testing::Bool());
 
 TEST(RecordPage, TextsDoNotLieOnOneAnother)
 {
-    const RecordPage page = LayOutDataRecord(FullSheet(), {});
+    const RecordPage page = LayOutDataRecord(FullBeamSheet(), {});
     ExpectTextsApart(page);
 }
 
@@ -49,14 +49,14 @@ TEST(RecordPage, WithoutNotesHasNoHeadingForThem)
         }
         return all;
     };
-    EXPECT_THAT(texts(FullSheet(), true), testing::Contains("Notes"));
-    EXPECT_THAT(texts(FullSheet(), false), testing::Not(testing::Contains("Notes")));
+    EXPECT_THAT(texts(FullBeamSheet(), true), testing::Contains("Notes"));
+    EXPECT_THAT(texts(FullBeamSheet(), false), testing::Not(testing::Contains("Notes")));
     EXPECT_THAT(texts(DataSheet{}, true), testing::Not(testing::Contains("Notes")));
 }
 
 TEST(RecordPage, AsTextKeepsItsLinesAndColumns)
 {
-    const std::string text = PlainTextOf(LayOutDataRecord(FullSheet(), {}));
+    const std::string text = PlainTextOf(LayOutDataRecord(FullBeamSheet(), {}));
     EXPECT_THAT(text, testing::HasSubstr("second header"));
     const std::size_t critical = text.find("c13 ");
     const std::size_t below = text.find("c15 ");
@@ -68,9 +68,9 @@ TEST(RecordPage, AsTextKeepsItsLinesAndColumns)
 
 TEST(RecordPage, AsTextCountsLettersNotBytes)
 {
-    DataSheet plain = FullSheet();
+    DataSheet plain = FullBeamSheet();
     plain[1] = "Project: Hauser";
-    DataSheet accented = FullSheet();
+    DataSheet accented = FullBeamSheet();
     accented[1] = "Project: H\u00E4user";
     const auto dateColumn = [](const DataSheet& sheet) {
         const std::string text = PlainTextOf(LayOutDataRecord(sheet, {}));

@@ -24,7 +24,7 @@ constexpr std::string_view AnotherKindText =
 constexpr std::string_view OtherFontText =
     "Please Note: Arial is the recommended printout font. You have selected another font that may or may not "
     "display well on your printouts.";
-constexpr std::string_view SavedText = "Your default settings were recorded and are ready for use.";
+constexpr std::string_view DefaultsSavedText = "Your default settings were recorded and are ready for use.";
 
 /// The right tag, blank texts, all else 0.
 RecordBytes BlankDefaults()
@@ -202,18 +202,18 @@ INSTANTIATE_TEST_SUITE_P(Tags, OtherTagTest,
                                          OtherTagCase{"negative", -4321}),
                          CaseName);
 
-struct EditionCase {
+struct DefaultEditionCase {
     std::string_view Name;
     bool InGrade;
     std::vector<std::size_t> Options;  // offsets of the options that are on
     Edition InForce;
 };
 
-class DefaultEditionTest : public testing::TestWithParam<EditionCase> {};
+class DefaultEditionTest : public testing::TestWithParam<DefaultEditionCase> {};
 
 TEST_P(DefaultEditionTest, IsThatOfTheOptions)
 {
-    const EditionCase& c = GetParam();
+    const DefaultEditionCase& c = GetParam();
     RecordBytes bytes = BlankDefaults();
     bytes.Short(230, c.InGrade ? -1 : 0);
     for (const std::size_t offset : c.Options) {
@@ -229,13 +229,14 @@ TEST_P(DefaultEditionTest, IsThatOfTheOptions)
 }
 
 INSTANTIATE_TEST_SUITE_P(Options, DefaultEditionTest,
-                         testing::Values(EditionCase{"2005", true, {310}, Edition::Nds2005},
-                                         EditionCase{"2012", true, {312}, Edition::Nds2012},
-                                         EditionCase{"2015", true, {314}, Edition::Nds2015},
-                                         EditionCase{"2018", true, {316}, Edition::Nds2018},
-                                         EditionCase{"none", true, {}, Edition::Nds2001},
-                                         EditionCase{"1997", false, {}, Edition::Nds1997},
-                                         EditionCase{"1997 beside 2018", false, {316}, Edition::Nds1997}),
+                         testing::Values(DefaultEditionCase{"2005", true, {310}, Edition::Nds2005},
+                                         DefaultEditionCase{"2012", true, {312}, Edition::Nds2012},
+                                         DefaultEditionCase{"2015", true, {314}, Edition::Nds2015},
+                                         DefaultEditionCase{"2018", true, {316}, Edition::Nds2018},
+                                         DefaultEditionCase{"none", true, {}, Edition::Nds2001},
+                                         DefaultEditionCase{"1997", false, {}, Edition::Nds1997},
+                                         DefaultEditionCase{
+                                             "1997 beside 2018", false, {316}, Edition::Nds1997}),
                          CaseName);
 
 struct SwitchCase {
@@ -308,7 +309,7 @@ TEST(SaveDefaults, WritesEveryChoiceWithTheEditionInForce)
     session.Nds = EditionFlags(Edition::Nds2015);
     ScriptedUser user;
     EXPECT_EQ(SaveDefaults(session, FilledSettings(), path, user), Outcome::Done);
-    EXPECT_THAT(user.Told, ElementsAre(AlertOf(SavedText)));
+    EXPECT_THAT(user.Told, ElementsAre(AlertOf(DefaultsSavedText)));
     EXPECT_EQ(FirstDifference(FileBytes(path), FilledDefaults().All()), "");
     EXPECT_EQ(folder.FileCount(), 1U);
 }
@@ -403,9 +404,9 @@ TEST_P(FontTest, OtherThanArialIsSavedAfterAWarning)
     ScriptedUser user;
     EXPECT_EQ(SaveDefaults(session, settings, path, user), Outcome::Done);
     if (GetParam().IsRecommended) {
-        EXPECT_THAT(user.Told, ElementsAre(AlertOf(SavedText)));
+        EXPECT_THAT(user.Told, ElementsAre(AlertOf(DefaultsSavedText)));
     } else {
-        EXPECT_THAT(user.Told, ElementsAre(AlertOf(OtherFontText), AlertOf(SavedText)));
+        EXPECT_THAT(user.Told, ElementsAre(AlertOf(OtherFontText), AlertOf(DefaultsSavedText)));
     }
     EXPECT_EQ(session.PrintFont, GetParam().Font);
     const std::string blanks(30 - GetParam().Font.size(), ' ');

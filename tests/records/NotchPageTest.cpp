@@ -13,8 +13,6 @@ using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 
-const ReportNoteLines FullNotes{"n1", "n2", "n3", "n4", "n5", "n6", "n7"};
-
 /// A glulam with a compression notch under 2005: every figure reads otherwise.
 NotchRun ReactionRun()
 {
@@ -114,15 +112,6 @@ RecordPage PageOf(const NotchRun& run, const PageOptions& options = {})
                                 .Date = "3/07/26",
                                 .Initials = "JD"};
     return LayOutNotchReport(run, heading, FullNotes, options);
-}
-
-std::vector<std::string> TextsOf(const RecordPage& page)
-{
-    std::vector<std::string> texts;
-    for (const PageText& text : page.Texts) {
-        texts.push_back(text.Text);
-    }
-    return texts;
 }
 
 /// The statuses from top to bottom.

@@ -4,10 +4,24 @@
 
 #include <cstddef>
 #include <set>
+#include <string>
+#include <vector>
 
+#include "design/DataSheet.h"
 #include "records/RecordPage.h"
 
 namespace kordavan {
+
+inline const ReportNoteLines FullNotes{"n1", "n2", "n3", "n4", "n5", "n6", "n7"};
+
+inline std::vector<std::string> TextsOf(const RecordPage& page)
+{
+    std::vector<std::string> texts;
+    for (const PageText& text : page.Texts) {
+        texts.push_back(text.Text);
+    }
+    return texts;
+}
 
 inline void ExpectWithinMargins(const RecordPage& page)
 {

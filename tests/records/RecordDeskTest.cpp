@@ -4,11 +4,10 @@
 
 #include "design/DesignBuilder.h"
 #include "design/Selection.h"
+#include "records/RecordDay.h"
 
 namespace kordavan {
 namespace {
-
-constexpr CalendarDay Day{.Year = 2026, .Month = 3, .Day = 7};
 
 Session TestedSession()
 {
@@ -44,7 +43,7 @@ TEST(RecordDesk, HeadsTheSheetByWhatWasEnteredForPrinting)
 }
 
 /// A record of another beam, as its file brings it: description and beam in the slots after the project.
-DataSheet OldRecord()
+DataSheet OldBeamRecord()
 {
     DataSheet sheet;
     sheet[1] = "Old house";
@@ -61,9 +60,9 @@ TEST(RecordDesk, KeepsALoadedRecordUntilItIsLeft)
 {
     Session session = TestedSession();
     ScriptedUser user;
-    TakeLoadedRecord(session, OldRecord());
+    TakeLoadedRecord(session, OldBeamRecord());
     ShowRecord(session, Day, user);
-    EXPECT_EQ(session.Record.Sheet, OldRecord());
+    EXPECT_EQ(session.Record.Sheet, OldBeamRecord());
     EXPECT_EQ(session.NoteClipboard[2], "Old note.");
     PrepareHeading(session, Day);
     const RecordHeading& heading = session.Record.Heading;
@@ -124,7 +123,7 @@ TEST(RecordDesk, BringsItsOwnSheetBackBehindALoadedOne)
     const DataSheet own = session.Record.Sheet;
     TakeLoadedRecord(session, DataSheet{});
     EXPECT_EQ(session.NoteClipboard[0], "Mine.");
-    TakeLoadedRecord(session, OldRecord());
+    TakeLoadedRecord(session, OldBeamRecord());
     user.WillAnswer(true);
     LeaveForCriteria(session, user);
     EXPECT_EQ(session.Record.Sheet, own);

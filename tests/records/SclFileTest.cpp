@@ -14,8 +14,8 @@ using testing::ElementsAre;
 using testing::Field;
 using testing::IsEmpty;
 
-constexpr std::string_view SavedText = "SCL Custom values have been saved to hard drive.";
-constexpr std::string_view UnfitText =
+constexpr std::string_view SclSavedText = "SCL Custom values have been saved to hard drive.";
+constexpr std::string_view UnfitSclText =
     "An SCL value file cannot hold the number in this box: it is too large, or an Fb, Fv or Fc that is no "
     "whole number.  Please change it and save again.";
 constexpr std::string_view ExponentText =
@@ -87,7 +87,7 @@ TEST_P(SclPlaceTest, IsWrittenInANewFileAndReadAgain)
     const TemporaryFolder folder;
     ScriptedUser user;
     EXPECT_EQ(SaveSclValues(folder.Path(), c.Product, c.Values(), user), Outcome::Done);
-    EXPECT_THAT(user.Told, ElementsAre(AlertOf(SavedText)));
+    EXPECT_THAT(user.Told, ElementsAre(AlertOf(SclSavedText)));
     EXPECT_EQ(FirstDifference(FileBytes(folder.Path(c.File())), c.With(c.Blank()).All()), "");
     EXPECT_EQ(folder.FileCount(), 1U);
     EXPECT_EQ(LoadSclValues(folder.Path(), c.Product, user), c.Values());
@@ -188,7 +188,7 @@ TEST(SclValues, OfACutFileAreTakenAsFarAsTheyGo)
               "");
 }
 
-struct RefusedCase {
+struct RefusedSclCase {
     std::string_view Name;
     std::size_t Product;
     void (*Spoil)(SclValues&);
@@ -196,7 +196,7 @@ struct RefusedCase {
     std::string_view Focus;
 };
 
-class RefusedSclTest : public testing::TestWithParam<RefusedCase> {};
+class RefusedSclTest : public testing::TestWithParam<RefusedSclCase> {};
 
 TEST_P(RefusedSclTest, IsNotSaved)
 {
@@ -214,34 +214,35 @@ TEST_P(RefusedSclTest, IsNotSaved)
 INSTANTIATE_TEST_SUITE_P(
     Checks, RefusedSclTest,
     testing::Values(
-        RefusedCase{"all empty", 0, [](SclValues& v) { v = {}; }, "Please enter a value for the Fb.",
-                    "Text1"},
-        RefusedCase{"Fb a word", 0, [](SclValues& v) { v.Fb = "2900 psi"; },
-                    "Please enter a value for the Fb.", "Text1"},
-        RefusedCase{"Fv before E", 25, [](SclValues& v) { v.Fv = v.E = "0"; },
-                    "Please enter a value for the Fv.", "Text2"},
-        RefusedCase{"E before Fc", 23, [](SclValues& v) { v.E = v.FcPerp = "-1"; },
-                    "Please enter a value for the E.", "Text4"},
-        RefusedCase{"E below all floats", 1, [](SclValues& v) { v.E = "1e-60"; },
-                    "Please enter a value for the E.", "Text4"},
-        RefusedCase{"Fc before the exponent", 24, [](SclValues& v) { v.FcPerp = v.Exponent = ""; },
-                    "Please enter a value for the Fc.", "Text3"},
-        RefusedCase{"exponent empty", 23, [](SclValues& v) { v.Exponent = v.Name = ""; }, ExponentText,
-                    "Text8"},
-        RefusedCase{"exponent of one", 24, [](SclValues& v) { v.Exponent = "1"; }, ExponentText, "Text8"},
-        RefusedCase{"exponent of one as a float", 24, [](SclValues& v) { v.Exponent = "0.999999999"; },
-                    ExponentText, "Text8"},
-        RefusedCase{"exponent negative", 23, [](SclValues& v) { v.Exponent = "-0.1"; }, ExponentText,
-                    "Text8"},
-        RefusedCase{"exponent a fraction", 23, [](SclValues& v) { v.Exponent = "1/9"; }, ExponentText,
-                    "Text8"},
-        RefusedCase{"name blank", 23, [](SclValues& v) { v.Name = "  "; }, NameText, "Text5"},
-        RefusedCase{"Fb past 16 bits", 0, [](SclValues& v) { v.Fb = "32768"; }, UnfitText, "Text1"},
-        RefusedCase{"Fv with a fraction", 0, [](SclValues& v) { v.Fv = "285.5"; }, UnfitText, "Text2"},
-        RefusedCase{"E past a float", 24, [](SclValues& v) { v.E = "1e39"; }, UnfitText, "Text4"},
-        RefusedCase{"Fc past 16 bits", 24, [](SclValues& v) { v.FcPerp = "1e300"; }, UnfitText, "Text3"},
-        RefusedCase{"no such product", 26, [](SclValues& /*v*/) {}, "Error saving your Custom SCL values.",
-                    ""}),
+        RefusedSclCase{"all empty", 0, [](SclValues& v) { v = {}; }, "Please enter a value for the Fb.",
+                       "Text1"},
+        RefusedSclCase{"Fb a word", 0, [](SclValues& v) { v.Fb = "2900 psi"; },
+                       "Please enter a value for the Fb.", "Text1"},
+        RefusedSclCase{"Fv before E", 25, [](SclValues& v) { v.Fv = v.E = "0"; },
+                       "Please enter a value for the Fv.", "Text2"},
+        RefusedSclCase{"E before Fc", 23, [](SclValues& v) { v.E = v.FcPerp = "-1"; },
+                       "Please enter a value for the E.", "Text4"},
+        RefusedSclCase{"E below all floats", 1, [](SclValues& v) { v.E = "1e-60"; },
+                       "Please enter a value for the E.", "Text4"},
+        RefusedSclCase{"Fc before the exponent", 24, [](SclValues& v) { v.FcPerp = v.Exponent = ""; },
+                       "Please enter a value for the Fc.", "Text3"},
+        RefusedSclCase{"exponent empty", 23, [](SclValues& v) { v.Exponent = v.Name = ""; }, ExponentText,
+                       "Text8"},
+        RefusedSclCase{"exponent of one", 24, [](SclValues& v) { v.Exponent = "1"; }, ExponentText, "Text8"},
+        RefusedSclCase{"exponent of one as a float", 24, [](SclValues& v) { v.Exponent = "0.999999999"; },
+                       ExponentText, "Text8"},
+        RefusedSclCase{"exponent negative", 23, [](SclValues& v) { v.Exponent = "-0.1"; }, ExponentText,
+                       "Text8"},
+        RefusedSclCase{"exponent a fraction", 23, [](SclValues& v) { v.Exponent = "1/9"; }, ExponentText,
+                       "Text8"},
+        RefusedSclCase{"name blank", 23, [](SclValues& v) { v.Name = "  "; }, NameText, "Text5"},
+        RefusedSclCase{"Fb past 16 bits", 0, [](SclValues& v) { v.Fb = "32768"; }, UnfitSclText, "Text1"},
+        RefusedSclCase{"Fv with a fraction", 0, [](SclValues& v) { v.Fv = "285.5"; }, UnfitSclText, "Text2"},
+        RefusedSclCase{"E past a float", 24, [](SclValues& v) { v.E = "1e39"; }, UnfitSclText, "Text4"},
+        RefusedSclCase{"Fc past 16 bits", 24, [](SclValues& v) { v.FcPerp = "1e300"; }, UnfitSclText,
+                       "Text3"},
+        RefusedSclCase{"no such product", 26, [](SclValues& /*v*/) {}, "Error saving your Custom SCL values.",
+                       ""}),
     CaseName);
 
 TEST(SclValues, OfAListedProductNeedNoExponentAndNoName)
@@ -257,14 +258,14 @@ TEST(SclValues, OfAListedProductNeedNoExponentAndNoName)
     EXPECT_EQ(LoadSclValues(folder.Path(), 23, user).Exponent, "0");
 }
 
-struct WrongFileCase {
+struct WrongSclCase {
     std::string_view Name;
     std::size_t Product;
     std::string_view File;
     std::string Bytes;
 };
 
-class WrongSclTest : public testing::TestWithParam<WrongFileCase> {};
+class WrongSclTest : public testing::TestWithParam<WrongSclCase> {};
 
 TEST_P(WrongSclTest, GivesNothingAndIsNotOverwritten)
 {
@@ -287,12 +288,12 @@ TEST_P(WrongSclTest, GivesNothingAndIsNotOverwritten)
 
 INSTANTIATE_TEST_SUITE_P(
     Files, WrongSclTest,
-    testing::Values(WrongFileCase{"the other of the two", 0, SclFileName, BlankOwn().All()},
-                    WrongFileCase{"the one of the two", 24, CustomSclFileName, BlankListed().All()},
-                    WrongFileCase{"no tag", 25, SclFileName, std::string(244, '\0')},
-                    WrongFileCase{"half a tag", 22, SclFileName, "q"},
-                    WrongFileCase{"swapped tag", 23, CustomSclFileName,
-                                  RecordBytes(92).Text(0, "\x07\xD0").All()}),
+    testing::Values(WrongSclCase{"the other of the two", 0, SclFileName, BlankOwn().All()},
+                    WrongSclCase{"the one of the two", 24, CustomSclFileName, BlankListed().All()},
+                    WrongSclCase{"no tag", 25, SclFileName, std::string(244, '\0')},
+                    WrongSclCase{"half a tag", 22, SclFileName, "q"},
+                    WrongSclCase{"swapped tag", 23, CustomSclFileName,
+                                 RecordBytes(92).Text(0, "\x07\xD0").All()}),
     CaseName);
 
 TEST(SclValues, TellWhyAFileCannotBeReadOrSaved)

@@ -6,11 +6,10 @@
 #include <string>
 
 #include "records/DataSheetFill.h"
+#include "records/RecordDay.h"
 #include "support/ScriptedUser.h"
 
 namespace kordavan {
-
-inline constexpr CalendarDay Day{.Year = 2026, .Month = 3, .Day = 7};
 
 using Cells = std::map<std::size_t, std::string>;
 

@@ -7,7 +7,7 @@
 namespace kordavan {
 namespace {
 
-struct SteelCase {
+struct SteelSheetCase {
     std::string_view Name;
     SteelFamily Family;
     std::string_view Shape;
@@ -19,11 +19,11 @@ struct SteelCase {
     std::string_view BearingCaption;
 };
 
-class SteelSheetTest : public testing::TestWithParam<SteelCase> {};
+class SteelSheetTest : public testing::TestWithParam<SteelSheetCase> {};
 
 TEST_P(SteelSheetTest, StatesYieldFactorBracingAndBearing)
 {
-    const SteelCase& c = GetParam();
+    const SteelSheetCase& c = GetParam();
     Session session = SteelSession(c.Family, "6", "100", "60");
     session.Problem.UBLtext = c.UBLtext;
     TestedShape(session, c.Shape);
@@ -48,15 +48,15 @@ TEST_P(SteelSheetTest, StatesYieldFactorBracingAndBearing)
 INSTANTIATE_TEST_SUITE_P(
     Shapes, SteelSheetTest,
     testing::Values(
-        SteelCase{"compact", SteelFamily::W, "W 8x 18", "4", "W 8x 18, 36 ksi Wide Flange Steel", "0.66",
-                  "YP Factor, Lc", "Lateral Support:|Lc = 5.5 ft max.", "Min Bearing Length"},
-        SteelCase{"channel", SteelFamily::C, "C 8x 11.5", "4", "C 8x 11.5, 36 ksi Steel Channel", "0.60",
-                  "YP Factor, Lu", "Lateral Support:|Lu = 5.1 ft max.", "Min Bearing Length"},
-        SteelCase{"tube", SteelFamily::Tube, "T 7x 4x 1/4", "Any", "T 7x 4x 1/4, 46 ksi Steel Tube", "0.60",
-                  "YP Factor", "Lateral Support:|@ Bearing Points", "Min Bearing Length"},
-        SteelCase{"plate", SteelFamily::Plate, "PL 9x 5/8", "0",
-                  "PL 9x 5/8 in., plus 2x wood sistered each side, 36 ksi steel flitch plate(s) ", "0.66",
-                  "YP Factor, Lc", "Top Load Only +|Full Lat. Bracing", "Wood Bearing Area"}),
+        SteelSheetCase{"compact", SteelFamily::W, "W 8x 18", "4", "W 8x 18, 36 ksi Wide Flange Steel", "0.66",
+                       "YP Factor, Lc", "Lateral Support:|Lc = 5.5 ft max.", "Min Bearing Length"},
+        SteelSheetCase{"channel", SteelFamily::C, "C 8x 11.5", "4", "C 8x 11.5, 36 ksi Steel Channel", "0.60",
+                       "YP Factor, Lu", "Lateral Support:|Lu = 5.1 ft max.", "Min Bearing Length"},
+        SteelSheetCase{"tube", SteelFamily::Tube, "T 7x 4x 1/4", "Any", "T 7x 4x 1/4, 46 ksi Steel Tube",
+                       "0.60", "YP Factor", "Lateral Support:|@ Bearing Points", "Min Bearing Length"},
+        SteelSheetCase{"plate", SteelFamily::Plate, "PL 9x 5/8", "0",
+                       "PL 9x 5/8 in., plus 2x wood sistered each side, 36 ksi steel flitch plate(s) ",
+                       "0.66", "YP Factor, Lc", "Top Load Only +|Full Lat. Bracing", "Wood Bearing Area"}),
     CaseName);
 
 /// 30 kips on the thin web of a W 8x 10 (0.17 in.) need bearing; a pound does not.

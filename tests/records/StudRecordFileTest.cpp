@@ -15,7 +15,7 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::Field;
 
-constexpr std::string_view WrongTagText =
+constexpr std::string_view WrongStudText =
     "The file you have selected does not contain a Kordavan Stud Column Record.  Please check to see if you "
     "selected the appropriate file.\n\n"
     "Column Records have a default extension of *.COL\n\n"
@@ -208,7 +208,7 @@ TEST(StudRecord, OfAnotherTagLeavesTheColumns)
         ScriptedUser user;
         const std::string bytes = FullBytes().Short(0, tag).All();
         EXPECT_EQ(OpenBytes(tag == 0 ? bytes.substr(0, 1) : bytes, columns, notes, user), Outcome::Refused);
-        EXPECT_THAT(user.Told, ElementsAre(AllOf(RefusalOf(WrongTagText), Field(&Message::Title, "Kordavan"),
+        EXPECT_THAT(user.Told, ElementsAre(AllOf(RefusalOf(WrongStudText), Field(&Message::Title, "Kordavan"),
                                                  Field(&Message::Icon, MessageIcon::Warning))));
         EXPECT_EQ(columns.Identity.ColumnProj, "Shed");
         EXPECT_TRUE(columns.Stud == WorkedColumns().Stud && columns.KeptStud == StudEntry{});
