@@ -51,6 +51,7 @@ void AnchorHeadings(QTextDocument& document)
             QTextCursor cursor(block);
             cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
             QTextCharFormat format;
+            format.setAnchor(true);
             format.setAnchorNames({GuideBrowser::AnchorOf(block.text())});
             cursor.mergeCharFormat(format);
         }
@@ -61,7 +62,8 @@ void SpaceLines(QTextDocument& document, double lineHeight)
 {
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         QTextBlockFormat format;
-        format.setLineHeight(LinePercent, QTextBlockFormat::ProportionalHeight);
+        const bool hasPicture = block.text().contains(QChar::ObjectReplacementCharacter);
+        format.setLineHeight(hasPicture ? 100 : LinePercent, QTextBlockFormat::ProportionalHeight);
         if (block.blockFormat().headingLevel() > 1) {
             format.setTopMargin(1.25 * lineHeight);
             format.setBottomMargin(0.25 * lineHeight);
@@ -183,7 +185,8 @@ void GuideBrowser::FitPictures()
                           .scaled((size * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
                                   Qt::SmoothTransformation);
             picture.setDevicePixelRatio(devicePixelRatioF());
-            document()->addResource(QTextDocument::ImageResource, QUrl(place.name()), picture);
+            document()->addResource(QTextDocument::ImageResource,
+                                    document()->baseUrl().resolved(QUrl(place.name())), picture);
             place.setWidth(size.width());
             place.setHeight(size.height());
             cursor.setCharFormat(place);
