@@ -1,8 +1,12 @@
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
 
+#include <cstdio>
 #include <string_view>
 
 #include "batch/AnswerLine.h"
+#include "batch/BatchRun.h"
 
 namespace {
 
@@ -20,5 +24,27 @@ void BatchLine(benchmark::State& state)
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BatchLine);
+
+/// A run over many joists, on so many threads.
+void BatchRunOnThreads(benchmark::State& state)
+{
+    constexpr int lines = 20000;
+    std::FILE* const requests = std::tmpfile();
+    for (int line = 0; line < lines; ++line) {
+        std::fwrite(Joist.data(), 1, Joist.size(), requests);
+        std::fputc('\n', requests);
+    }
+    std::fflush(requests);
+    const int output = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    while (state.KeepRunning()) {
+        ::lseek(::fileno(requests), 0, SEEK_SET);
+        kordavan::LineBlocks blocks(::fileno(requests));
+        kordavan::AnswerInput(blocks, output, static_cast<int>(state.range(0)), kordavan::AnswerLine);
+    }
+    ::close(output);
+    std::fclose(requests);
+    state.SetItemsProcessed(state.iterations() * lines);
+}
+BENCHMARK(BatchRunOnThreads)->RangeMultiplier(2)->Range(1, 4)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -3,8 +3,7 @@
 #include <vector>
 
 #include "analysis/AppliedLoads.h"
-#include "batch/CollectingUser.h"
-#include "design/CalculateAction.h"
+#include "bench/FullyLoadedBeam.h"
 #include "design/Selection.h"
 #include "design/SteelScan.h"
 #include "design/SteelTest.h"
@@ -15,35 +14,6 @@ namespace {
 
 using namespace kordavan;
 
-/// A 16 ft beam under everything that its boxes can hold: six point and five partial loads.
-BeamProblem FullyLoadedBeam()
-{
-    BeamProblem problem;
-    problem.Span = "16";
-    problem.Loads.UNIF = "60";
-    problem.Loads.LUNIF = "40";
-    problem.UBLtext = "4";
-    problem.Loads.PT.fill("200");
-    problem.Loads.LPT.fill("120");
-    problem.Loads.DIS = {"2", "4", "6", "8", "10", "12"};
-    problem.Loads.PAR.fill("40");
-    problem.Loads.LPAR.fill("25");
-    problem.Loads.BEGP = {"1", "3", "5", "7", "9"};
-    problem.Loads.ENDP = {"4", "7", "10", "13", "16"};
-    return problem;
-}
-
-Session CalculatedSession()
-{
-    Session session;
-    session.Problem = FullyLoadedBeam();
-    CollectingUser user;
-    CalculateAction(session, user);
-    return session;
-}
-
-const MemberEntry Timber{.BreadthText = "6x", .DepthText = "12", .SpeciesText = "DF-L #1", .Custom = {}};
-
 void AppliedLoads(benchmark::State& state)
 {
     Session session = CalculatedSession();
@@ -53,6 +23,28 @@ void AppliedLoads(benchmark::State& state)
     }
 }
 BENCHMARK(AppliedLoads);
+
+/// The same under so many point and partial loads, up to what the boxes hold.
+void AppliedLoadsByCount(benchmark::State& state)
+{
+    Session session;
+    session.Problem = FullyLoadedBeam();
+    LoadSet& loads = session.Problem.Loads;
+    const auto count = static_cast<std::size_t>(state.range(0));
+    for (std::size_t k = count; k < loads.PT.size(); ++k) {
+        loads.PT[k] = loads.LPT[k] = loads.DIS[k] = "";
+    }
+    for (std::size_t k = count; k < loads.PAR.size(); ++k) {
+        loads.PAR[k] = loads.LPAR[k] = loads.BEGP[k] = loads.ENDP[k] = "";
+    }
+    CollectingUser user;
+    CalculateAction(session, user);
+    while (state.KeepRunning()) {
+        benchmark::DoNotOptimize(ComputeAppliedLoads(session.Numbers, 0, session.Stations));
+        benchmark::ClobberMemory();
+    }
+}
+BENCHMARK(AppliedLoadsByCount)->DenseRange(0, 6, 2);
 
 void WholeCalculateAction(benchmark::State& state)
 {

@@ -3,12 +3,16 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <filesystem>
 
 #include "design/Selection.h"
 #include "forms/DesktopPort.h"
 #include "forms/Form.h"
 #include "forms/QtPrinters.h"
+#include "forms/RecordPdf.h"
 #include "forms/Walk.h"
+#include "records/DataRecordPage.h"
+#include "records/DataSheetFill.h"
 
 namespace kordavan {
 namespace {
@@ -101,6 +105,38 @@ void StepOnReport(benchmark::State& state)
     }
 }
 BENCHMARK(StepOnReport)->Unit(benchmark::kMillisecond);
+
+/// From the report to the Data Record of its member, and back.
+void RecordShown(benchmark::State& state)
+{
+    Desk desk;
+    desk.GoToReport();
+    while (state.KeepRunning()) {
+        desk.walk.Go(Screen::Record);
+        desk.walk.Front()->grab();
+        desk.walk.Go(Screen::TestReport);
+    }
+}
+BENCHMARK(RecordShown)->Unit(benchmark::kMillisecond);
+
+/// A Data Record as a PDF file, its fonts embedded.
+void RecordAsPdf(benchmark::State& state)
+{
+    Desk desk;
+    desk.GoToReport();
+    const DataSheet sheet = FillDataRecord(desk.session, desk.desktop.Today(), desk.user);
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "kordavan-bench.pdf";
+    const PdfPage page{
+        .Page = LayOutDataRecord(sheet, {}), .Picture = {}, .Family = QApplication::font().family()};
+    while (state.KeepRunning()) {
+        const std::string fault = SavePdf(path, page);
+        if (!fault.empty()) {
+            state.SkipWithError(fault.c_str());
+        }
+    }
+    std::filesystem::remove(path);
+}
+BENCHMARK(RecordAsPdf)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace kordavan

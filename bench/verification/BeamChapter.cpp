@@ -1,7 +1,7 @@
 #include "Chapters.h"
 #include "Steps.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -296,4 +296,4 @@ Chapter BeamChapter()
          ContinuousBeams(), SlopedRafter(), ShearAtDepth()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

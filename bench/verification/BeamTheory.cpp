@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -150,4 +150,4 @@ double ElasticCurve::GreatestDeflection(double from, double to) const
     return greatest;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// A point load, lb, at ft from the first end.
 struct PointLoad {
@@ -57,4 +57,4 @@ private:
     double offset = 0;  // of the elastic curve at the first end, times EI, lb-ft3
 };
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

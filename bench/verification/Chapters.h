@@ -2,7 +2,7 @@
 
 #include "Example.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 Chapter BeamChapter();
 Chapter FactorChapter();
@@ -15,4 +15,4 @@ Chapter StudChapter();
 Chapter SteelColumnChapter();
 Chapter NotchChapter();
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

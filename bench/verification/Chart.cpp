@@ -1,10 +1,11 @@
 #include "Chart.h"
 
 #include <array>
+#include <cmath>
 
 #include "Figure.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -56,10 +57,16 @@ constexpr std::string_view ZeroStyle = "stroke=\"#333333\" stroke-width=\"1.5\""
 constexpr std::string_view UnsafeFill = "#fbeae8";
 constexpr std::string_view Bold = " font-weight=\"bold\"";
 
+int StepsOf(double from, double to, double step)
+{
+    return static_cast<int>(std::lround((to - from) / step));
+}
+
 std::string VerticalGrid(const Plot& plot, double step, int decimals)
 {
     std::string svg;
-    for (double value = plot.FromX; value <= plot.ToX + step / 2; value += step) {
+    for (int i = 0; i <= StepsOf(plot.FromX, plot.ToX, step); ++i) {
+        const double value = plot.FromX + i * step;
         svg += LineFrom(plot.X(value), plot.Top, plot.X(value), plot.Bottom, std::string(GridStyle));
         svg += TextAt(plot.X(value), plot.Bottom + 18, Anchor::Middle, Fixed(value, decimals));
     }
@@ -69,7 +76,8 @@ std::string VerticalGrid(const Plot& plot, double step, int decimals)
 std::string HorizontalGrid(const Plot& plot, double step)
 {
     std::string svg;
-    for (double value = plot.FromY; value <= plot.ToY + step / 2; value += step) {
+    for (int i = 0; i <= StepsOf(plot.FromY, plot.ToY, step); ++i) {
+        const double value = plot.FromY + i * step;
         svg += LineFrom(plot.Left, plot.Y(value), plot.Right, plot.Y(value), std::string(GridStyle));
         svg += TextAt(plot.Left - 8, plot.Y(value) + 4, Anchor::End, Signed(value, 0));
     }
@@ -190,4 +198,4 @@ std::string DrawChart(const std::vector<SweepGroup>& sweep)
            DrawRanges(families) + "</svg>\n";
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -9,7 +9,7 @@
 
 #include "batch/AnswerLine.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -86,4 +86,4 @@ const rapidjson::Value& Answer::Find(std::string_view place) const
     return *value;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// What the engine answers to one request of the batch program.
 class Answer {
@@ -25,4 +25,4 @@ private:
     rapidjson::Document document;
 };
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// How far a figure that is only rounded to single precision may lie from the hand calculation, %.
 inline constexpr double SinglePrecision = 0.001;
@@ -14,7 +14,7 @@ inline constexpr double SinglePrecision = 0.001;
 struct Row {
     std::string Quantity;             // with its unit
     std::string Step;                 // of the hand calculation, "R1 = w x L / 2"; the reason, beside a text
-    std::string Place = "";           // of Kordavan's figure in the answer; empty for a step on the way
+    std::string Place = {};           // of Kordavan's figure in the answer; empty for a step on the way
     double Within = SinglePrecision;  // %
     std::optional<std::string> Text = std::nullopt;  // what is expected, where it is a text and not a figure
 };
@@ -46,4 +46,4 @@ struct Chapter {
     std::vector<Example> Examples;
 };
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -8,7 +8,7 @@
 #include "Expression.h"
 #include "Figure.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -143,4 +143,4 @@ void WriteExample(const Example& example, const std::string& number, Manual& man
     }
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

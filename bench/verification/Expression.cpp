@@ -8,7 +8,7 @@
 #include <system_error>
 #include <vector>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -238,4 +238,4 @@ double WorkOut(std::string_view step, Symbols& symbols)
     return value;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// Values by the symbols of the trade, as "L" or "Fb'".
 using Symbols = std::map<std::string, double, std::less<>>;
@@ -22,4 +22,4 @@ Symbols ReadGivens(std::string_view givens);
 /// One step of a hand calculation, "R1 = w x L / 2": works it out and keeps it under its symbol.
 double WorkOut(std::string_view step, Symbols& symbols);
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

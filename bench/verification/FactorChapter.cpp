@@ -1,6 +1,6 @@
 #include "Chapters.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -133,4 +133,4 @@ Chapter FactorChapter()
             {SizeFactors(), ServiceFactors(), VolumeFactors()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -45,4 +45,4 @@ std::string Signed(double percent, int decimals)
     return isZero || text.front() == '-' ? text : "+" + text;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// A figure to six significant digits, without an exponent, "1656.27" or "0.251394".
 std::string Figure(double value);
@@ -13,4 +13,4 @@ std::string Fixed(double value, int decimals);
 /// A difference in per cent with its sign, "+0.12".
 std::string Signed(double percent, int decimals);
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -12,7 +12,7 @@
 
 namespace {
 
-using kordavan::verification::Manual;
+using kordavan::Verification::Manual;
 
 struct ManualFile {
     std::filesystem::path Path;
@@ -62,7 +62,7 @@ bool Write(const ManualFile& file)
 
 bool Run(bool checks, const std::filesystem::path& docs)
 {
-    const Manual manual = kordavan::verification::MakeManual();
+    const Manual manual = kordavan::Verification::MakeManual();
     for (const std::string& fault : manual.Faults) {
         std::cerr << fault << "\n";
     }

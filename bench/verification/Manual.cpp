@@ -6,7 +6,7 @@
 #include "Prose.h"
 #include "SweepText.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -58,4 +58,4 @@ Manual MakeManual()
     return manual;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

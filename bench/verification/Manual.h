@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// The manual, its chart and the requests of its examples, as their files have them, and what does not hold.
 struct Manual {
@@ -16,4 +16,4 @@ struct Manual {
 /// Puts every example to the engine, works it out by hand, and writes both down.
 Manual MakeManual();
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

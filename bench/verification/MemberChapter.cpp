@@ -1,7 +1,7 @@
 #include "Chapters.h"
 #include "Steps.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -138,4 +138,4 @@ Chapter MemberChapter()
             {TimberGirder(), GlulamRidge(), CompositeGirder(), RoundBeam(), WoodBearing()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

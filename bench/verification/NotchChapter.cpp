@@ -1,6 +1,6 @@
 #include "Chapters.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -113,4 +113,4 @@ Chapter NotchChapter()
         {TensionNotch(), CompressionNotch(), TaperedNotch()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

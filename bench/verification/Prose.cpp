@@ -5,7 +5,7 @@
 
 #include "Figure.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -132,4 +132,4 @@ Each of these is meant. "Safe" asks for more than the published rule, "unsafe" f
 )";
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

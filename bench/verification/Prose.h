@@ -5,7 +5,7 @@
 
 #include "Sweep.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// What stands before the first chapter.
 std::string Introduction();
@@ -17,4 +17,4 @@ std::string WhenToDistrust(const std::vector<SweepGroup>& sweep);
 /// Where the program departs from a published rule, and to which side.
 std::string Departures();
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

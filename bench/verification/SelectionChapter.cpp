@@ -2,7 +2,7 @@
 
 #include "Chapters.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -99,4 +99,4 @@ Chapter SelectionChapter()
             {JoistSpans(), QuickPicks(), SteelScan()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

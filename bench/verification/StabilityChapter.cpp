@@ -1,7 +1,7 @@
 #include "Chapters.h"
 #include "Steps.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -106,4 +106,4 @@ Chapter StabilityChapter()
     return {"Beam stability", "", {SawnBeam(), EffectiveLengths(), GlulamBeam()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -1,6 +1,6 @@
 #include "Chapters.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -142,4 +142,4 @@ Chapter SteelBeamChapter()
             {GarageBeam(), SteelRegimes(), SteelBearing()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -2,7 +2,7 @@
 
 #include "Chapters.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -92,4 +92,4 @@ Chapter SteelColumnChapter()
             {TableOfStresses(), BothSidesOfCc()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

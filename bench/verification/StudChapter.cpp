@@ -1,7 +1,7 @@
 #include "Chapters.h"
 #include "Steps.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -66,4 +66,4 @@ Chapter StudChapter()
     return {"Studs under axial load and wind", "", {ExteriorStud(), TallStud()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -5,7 +5,7 @@
 
 #include "Engine.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -46,4 +46,4 @@ SweepFamily Compare(const SweepBeams& beams, const Measure& measure, double lowe
     return family;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -6,7 +6,7 @@
 
 #include "SweepBeam.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// One beam of a sweep: how Kordavan's figure lies to that of beam theory.
 struct SweepPoint {
@@ -58,4 +58,4 @@ struct SweepGroup {
 /// All families, in the order of the manual; those of single spans come first.
 std::vector<SweepGroup> RunSweep();
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -29,6 +29,7 @@ std::string LoadBox(const std::string& name, const std::vector<Load>& onSpan,
                     const std::vector<Load>& onOverhang, std::size_t firstOnOverhang, Value value)
 {
     std::vector<std::string> rows;
+    rows.reserve(onSpan.size());
     for (const Load& load : onSpan) {
         rows.push_back(DigitsOf(value(load)));
     }
@@ -134,4 +135,4 @@ ElasticBeam TheoryOf(const SweepBeam& beam)
     return theory;
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -5,7 +5,7 @@
 
 #include "BeamTheory.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 /// A beam that is put both to the engine and to beam theory; its loads are all live, so that no creep enters.
 struct SweepBeam {
@@ -27,4 +27,4 @@ std::string RequestOf(const SweepBeam& beam);
 /// The same beam for the theory.
 ElasticBeam TheoryOf(const SweepBeam& beam);
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -1,6 +1,6 @@
 #include "Sweep.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -206,4 +206,4 @@ std::vector<SweepGroup> RunSweep()
     return {SimpleSpans(), Overhangs(), ContinuousSpans()};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -6,7 +6,7 @@
 #include "Expression.h"
 #include "Figure.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -133,4 +133,4 @@ void WriteSweep(const std::vector<SweepGroup>& sweep, Manual& manual)
     }
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

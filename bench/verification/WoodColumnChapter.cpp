@@ -1,7 +1,7 @@
 #include "Chapters.h"
 #include "Steps.h"
 
-namespace kordavan::verification {
+namespace kordavan::Verification {
 
 namespace {
 
@@ -132,4 +132,4 @@ Chapter WoodColumnChapter()
     return {"Wood columns", "", {BothPlanes(), TimberPosts(), BuiltUpPosts(), ColumnSearch()}};
 }
 
-}  // namespace kordavan::verification
+}  // namespace kordavan::Verification

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QIcon>
 
 #include "columns/ColumnSession.h"
 #include "design/Session.h"
@@ -11,6 +12,8 @@ int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kordavan"));
+    QApplication::setDesktopFileName(QStringLiteral(KORDAVAN_APP_ID));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kordavan.svg")));
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
 

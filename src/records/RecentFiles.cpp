@@ -39,7 +39,8 @@ std::vector<std::string> AddRecentFile(const std::string& listPath, const std::s
 
 std::string FolderOfFixedFiles(const std::string& programFolder, const std::string& userFolder)
 {
-    if (access(programFolder.c_str(), W_OK) == 0) {
+    const bool isShared = std::filesystem::path(programFolder).filename() == "bin";
+    if (!isShared && access(programFolder.c_str(), W_OK) == 0) {
         return programFolder;
     }
     std::error_code ignored;

@@ -16,8 +16,8 @@ std::vector<std::string> ReadRecentFiles(const std::string& listPath);
 /// Puts a file at the head of the list. The list is a history: one that cannot be written is let go.
 std::vector<std::string> AddRecentFile(const std::string& listPath, const std::string& file);
 
-/// Where the files of fixed name lie: in the program's folder, or, where that cannot be written, in the
-/// user's own, which is made if need be.
+/// Where the files of fixed name lie: in the program's folder, or, where that cannot be written or is a bin,
+/// which many programs and users share, in the user's own, which is made if need be.
 std::string FolderOfFixedFiles(const std::string& programFolder, const std::string& userFolder);
 
 }  // namespace kordavan

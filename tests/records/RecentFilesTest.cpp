@@ -75,6 +75,13 @@ TEST(FixedFiles, LieInTheUsersFolderElse)
     EXPECT_EQ(FolderOfFixedFiles(folder.Path("gone"), user), user);
 }
 
+TEST(FixedFiles, LieInTheUsersFolderWhereTheProgramsIsABin)
+{
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder.Path("bin"));
+    EXPECT_EQ(FolderOfFixedFiles(folder.Path("bin"), folder.Path("user")), folder.Path("user"));
+}
+
 TEST(FixedFiles, LieInTheUsersFolderWhereTheProgramsIsReadOnly)
 {
     if (geteuid() == 0) {
