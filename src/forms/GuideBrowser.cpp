@@ -1,5 +1,6 @@
 #include "forms/GuideBrowser.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QEvent>
 #include <QImage>
 #include <QScrollBar>
@@ -19,7 +20,6 @@ constexpr double LinePercent = 125;
 constexpr double ZoomStep = 1.1;
 constexpr double LeastPictureScale = 0.1;
 constexpr int MostZoomSteps = 12;
-constexpr int IsSetOut = 1;  // state of the first block of a page
 
 QString ResourceOf(const QString& link)
 {
@@ -56,6 +56,12 @@ void AnchorHeadings(QTextDocument& document)
             cursor.mergeCharFormat(format);
         }
     }
+}
+
+/// A page begins with its heading, which as written has no anchor.
+bool IsSetOut(const QTextDocument& document)
+{
+    return document.firstBlock().begin().fragment().charFormat().isAnchor();
 }
 
 void SpaceLines(QTextDocument& document, double lineHeight)
@@ -97,7 +103,9 @@ GuideBrowser::GuideBrowser()
     setAccessibleName(QStringLiteral("The page of the guide"));
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // the same width for a page while it loads
     usualPointSize = font().pointSizeF();
+    connect(this, &QTextBrowser::sourceChanged, this, &GuideBrowser::ShowPlace);
 }
 
 void GuideBrowser::Open(const QString& link)
@@ -147,14 +155,13 @@ QString GuideBrowser::AnchorOf(const QString& heading)
 }
 
 /// A link within the page does not always load it again.
-void GuideBrowser::doSetSource(const QUrl& url, QTextDocument::ResourceType type)
+void GuideBrowser::ShowPlace(const QUrl& place)
 {
-    QTextBrowser::doSetSource(url, type);
-    if (document()->firstBlock().userState() != IsSetOut) {
+    if (!IsSetOut(*document())) {
         SetOut();
     }
-    if (url.hasFragment()) {
-        scrollToAnchor(url.fragment());
+    if (place.hasFragment()) {
+        scrollToAnchor(place.fragment());
     }
 }
 
@@ -162,11 +169,13 @@ void GuideBrowser::SetOut()
 {
     const double lineHeight = fontMetrics().height();
     document()->setDocumentMargin(lineHeight);
+    QTextCursor changes(document());
+    changes.beginEditBlock();
     AnchorHeadings(*document());
     SpaceLines(*document(), lineHeight);
     RuleTables(*document(), lineHeight, palette().color(QPalette::Mid));
+    changes.endEditBlock();
     FitPictures();
-    document()->firstBlock().setUserState(IsSetOut);
 }
 
 /// Pictures are scaled here, as the page itself would scale them coarsely.
@@ -174,6 +183,8 @@ void GuideBrowser::FitPictures()
 {
     const double room = viewport()->width() - 2 * document()->documentMargin();
     const double zoom = std::pow(ZoomStep, zoomSteps);
+    QTextCursor changes(document());
+    changes.beginEditBlock();
     ForFragments(
         *document(), [](const QTextCharFormat& format) { return format.isImageFormat(); },
         [&](QTextCursor& cursor, const QTextCharFormat& format) {
@@ -191,6 +202,27 @@ void GuideBrowser::FitPictures()
             place.setHeight(size.height());
             cursor.setCharFormat(place);
         });
+    changes.endEditBlock();
+    FinishLayout();
+}
+
+/// A page is laid out step by step, as it comes into sight; going to a place needs its whole length at once.
+void GuideBrowser::FinishLayout()
+{
+    QAbstractTextDocumentLayout& layout = *document()->documentLayout();
+    Q_EMIT layout.documentSizeChanged(layout.documentSize());
+}
+
+int GuideBrowser::ReadingPlace() const
+{
+    return verticalScrollBar()->value() == 0 ? 0 : cursorForPosition({0, 0}).position();
+}
+
+void GuideBrowser::ReadOnAt(int place)
+{
+    const QTextBlock block = document()->findBlock(place);
+    const double top = place == 0 ? 0 : document()->documentLayout()->blockBoundingRect(block).top();
+    verticalScrollBar()->setValue(static_cast<int>(top));
 }
 
 void GuideBrowser::ApplyZoom()
@@ -203,20 +235,21 @@ void GuideBrowser::ApplyZoom()
 /// Letters of another size, or colours of another palette, set the page out anew where it was being read.
 void GuideBrowser::changeEvent(QEvent* event)
 {
+    const int place = ReadingPlace();
     QTextBrowser::changeEvent(event);
     const bool isLook = event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange;
     if (isLook && !source().isEmpty()) {
-        const double part =
-            verticalScrollBar()->value() / std::max(1.0, 1.0 * verticalScrollBar()->maximum());
         reload();
-        verticalScrollBar()->setValue(static_cast<int>(part * verticalScrollBar()->maximum()));
+        ReadOnAt(place);
     }
 }
 
 void GuideBrowser::resizeEvent(QResizeEvent* event)
 {
+    const int place = ReadingPlace();
     QTextBrowser::resizeEvent(event);
     FitPictures();
+    ReadOnAt(place);
 }
 
 void GuideBrowser::wheelEvent(QWheelEvent* event)

@@ -27,15 +27,20 @@ public:
     static QString AnchorOf(const QString& heading);
 
 protected:
-    void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void ShowPlace(const QUrl& place);
     void SetOut();
     void FitPictures();
+    void FinishLayout();
     void ApplyZoom();
+
+    /// The place in the text at the top of what is seen, and going there.
+    int ReadingPlace() const;
+    void ReadOnAt(int place);
 
     qreal usualPointSize = 0;
     int zoomSteps = 0;

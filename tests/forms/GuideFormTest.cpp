@@ -165,6 +165,7 @@ TEST_F(GuideFormTest, TurnsPagesAndForgetsThemOnceClosed)
 
 TEST_F(GuideFormTest, GoesToAHeading)
 {
+    Guide().resize(1100, 700);
     PressF1(walk.FormOf(Screen::NotchPage));
     EXPECT_EQ(TopLine(), "The notch report");
     const int place = Browser().verticalScrollBar()->value();
@@ -172,6 +173,8 @@ TEST_F(GuideFormTest, GoesToAHeading)
     EXPECT_EQ(TopLine(), "Messages");
     Press("GuideBack");
     EXPECT_EQ(Browser().verticalScrollBar()->value(), place);
+    Guide().resize(900, 600);
+    EXPECT_EQ(TopLine(), "The notch report");
 }
 
 TEST_F(GuideFormTest, FindsWordsRoundThePage)
