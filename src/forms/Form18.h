@@ -56,7 +56,6 @@ private:
     Bindings bindings;
     NumericBoxContext numbers;
     GroupContext context;
-    Edition editionShown;
 
     QStackedWidget* pages = nullptr;
     ColumnLoadGroup* loadGroup = nullptr;
