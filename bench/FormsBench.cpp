@@ -26,6 +26,7 @@ public:
 class BareDesk : public DesktopPort {
 public:
     CalendarDay Today() override { return {.Year = 2026, .Month = 1, .Day = 2}; }
+    std::string MomentInWords() override { return {}; }
     int MinutesSinceStart() override { return 0; }
     bool OpenFileExplorer() override { return true; }
     void EndProgram() override {}

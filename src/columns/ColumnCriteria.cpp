@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "columns/ColumnSpecies.h"
+#include "columns/StudCriteria.h"
 #include "columns/WoodColumn.h"
 #include "core/NumberText.h"
 
@@ -57,6 +58,15 @@ void ChangeColumnEdition(ColumnEntry& entry, Edition from, Edition to)
     if (before && after && entry.cFcText == FcText(*before)) {
         entry.cFcText = FcText(*after);
     }
+}
+
+void FollowEdition(ColumnSession& columns, Edition inForce)
+{
+    if (columns.ValuesOf && columns.ValuesOf != inForce) {
+        ChangeColumnEdition(columns.Entry, *columns.ValuesOf, inForce);
+        ChangeStudEdition(columns.Stud, *columns.ValuesOf, inForce);
+    }
+    columns.ValuesOf = inForce;
 }
 
 Outcome ImportReaction(const Session& beam, const ReactionChoice& choice, ColumnEntry& entry, UserPort& user)

@@ -23,6 +23,9 @@ std::string ColumnSpeciesNote(const ColumnEntry& entry, Edition edition);
 /// Values picked from the tables follow the edition that comes into force; typed ones stay.
 void ChangeColumnEdition(ColumnEntry& entry, Edition from, Edition to);
 
+/// Lets the picked values of all kinds follow another edition in force.
+void FollowEdition(ColumnSession& columns, Edition inForce);
+
 /// Which reaction of the current beam a column is to carry.
 struct ReactionChoice {
     bool IsSecond = false;

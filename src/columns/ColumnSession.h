@@ -45,6 +45,7 @@ struct ColumnSession {
     ColumnIdentity Identity;
     ColumnEntry Entry;
     StudEntry Stud;
+    std::optional<Edition> ValuesOf;  // the edition in force that picked base values followed last
 
     ColumnProblem Problem;  // the entries as the last accepted calculation read them
     ColumnFactors Carried;  // left by the last candidate

@@ -64,6 +64,10 @@ SteelColumnResult WorkOutSteelColumn(const SteelColumnProblem& problem, std::siz
 /// The first rows of each kind that carry the load with something to spare.
 SteelColumnPicks SearchSteelColumns(const SteelColumnProblem& problem);
 
+/// The size that a quick pick shows.
+/// @param tube  which of the square tubes
+const std::string& PickedSteelSize(const SteelColumnPicks& picks, SteelColumnKind kind, std::size_t tube);
+
 /// The OK command of the steel face: checks the entries and searches the sizes; the boxes of the size and the
 /// report before are emptied. A refusal leaves the sizes and the report before.
 Outcome CalculateSteelColumn(ColumnSession& columns, UserPort& user);

@@ -37,21 +37,6 @@ std::string_view WithoutBlanksAround(std::string_view text)
                                            : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-const std::string& CaptionOf(const SteelColumnPicks& picks, SteelColumnKind kind, std::size_t tube)
-{
-    switch (kind) {
-        case SteelColumnKind::Standard:
-            return picks.StdRndBut;
-        case SteelColumnKind::ExtraStrong:
-            return picks.ExtraRndbut;
-        case SteelColumnKind::DoubleExtraStrong:
-            return picks.DblRndBut;
-        case SteelColumnKind::Tube:
-            break;
-    }
-    return picks.TubeCol.at(tube);
-}
-
 std::string RefusalText(std::string_view request)
 {
     return std::string(request) + std::string(HowToEnter);
@@ -69,6 +54,21 @@ Outcome RefuseUnlisted(std::string_view size, UserPort& user)
 
 }  // namespace
 
+const std::string& PickedSteelSize(const SteelColumnPicks& picks, SteelColumnKind kind, std::size_t tube)
+{
+    switch (kind) {
+        case SteelColumnKind::Standard:
+            return picks.StdRndBut;
+        case SteelColumnKind::ExtraStrong:
+            return picks.ExtraRndbut;
+        case SteelColumnKind::DoubleExtraStrong:
+            return picks.DblRndBut;
+        case SteelColumnKind::Tube:
+            break;
+    }
+    return picks.TubeCol.at(tube);
+}
+
 Outcome CalculateSteelColumn(ColumnSession& columns, UserPort& user)
 {
     if (ValidateColumnProblem(columns.Entry, ColumnFace::Steel, user) != Outcome::Done) {
@@ -84,7 +84,7 @@ Outcome CalculateSteelColumn(ColumnSession& columns, UserPort& user)
 
 Outcome PickSteelColumn(ColumnSession& columns, SteelColumnKind kind, std::size_t tube, UserPort& user)
 {
-    columns.StlColSizeText = CaptionOf(columns.SteelPicks, kind, tube);
+    columns.StlColSizeText = PickedSteelSize(columns.SteelPicks, kind, tube);
     if (columns.StlColSizeText.empty()) {
         columns.StlColGrade.clear();
         columns.SteelTest.reset();

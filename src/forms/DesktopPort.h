@@ -21,6 +21,7 @@ public:
     virtual ~DesktopPort() = default;
 
     virtual CalendarDay Today() = 0;
+    virtual std::string MomentInWords() = 0;  // "Saturday, March 7, 2026 at 2:32 PM"
     virtual int MinutesSinceStart() = 0;
     virtual bool OpenFileExplorer() = 0;  // false when there is none
     virtual void EndProgram() = 0;

@@ -11,10 +11,27 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStatusBar>
 #include <QStyle>
 #include <QVBoxLayout>
 
 namespace kordavan {
+
+namespace {
+
+/// The form grows by its bar, so that the body does not begin to scroll.
+void ShowBar(QWidget& form, QStatusBar& bar, bool isShown)
+{
+    if (isShown == bar.isVisibleTo(&form)) {
+        return;
+    }
+    bar.setVisible(isShown);
+    const int grownBy = isShown ? bar.sizeHint().height() : -bar.sizeHint().height();
+    const QSize room = QApplication::primaryScreen()->availableGeometry().size();
+    form.resize(QSize(form.width(), form.height() + grownBy).boundedTo(room));
+}
+
+}  // namespace
 
 Form::Form(Walk& theWalk, std::string_view name)
     : currentWalk(theWalk),
@@ -58,6 +75,17 @@ void Form::FocusOn(std::string_view control)
         box->selectAll();
     }
     scroll->ensureWidgetVisible(target);
+}
+
+void Form::ShowNote(std::string_view text)
+{
+    constexpr int shownFor = 60000;  // ms
+    QStatusBar* const bar = statusBar();
+    bar->setSizeGripEnabled(false);
+    bar->hide();
+    connect(bar, &QStatusBar::messageChanged, this,
+            [this, bar](const QString& note) { ShowBar(*this, *bar, !note.isEmpty()); });
+    bar->showMessage(Text(text), shownFor);
 }
 
 void Form::FitToScreen()

@@ -37,6 +37,9 @@ public:
     /// Puts the caret where a message points to, and scrolls there.
     void FocusOn(std::string_view control);
 
+    /// Says something at the foot of the form for a while, without a question or a beep.
+    void ShowNote(std::string_view text);
+
     /// Takes the size of the contents, or of the screen when that is smaller.
     void FitToScreen();
 

@@ -60,21 +60,6 @@ constexpr std::array PickRows{
 
 constexpr std::array<std::string_view, 3> PipeHeads{"Standard", "Extra Strong", "Dbl Extra Strong"};
 
-const std::string& SizeOf(const SteelColumnPicks& picks, const PickRow& row)
-{
-    switch (row.Kind) {
-        case SteelColumnKind::Standard:
-            return picks.StdRndBut;
-        case SteelColumnKind::ExtraStrong:
-            return picks.ExtraRndbut;
-        case SteelColumnKind::DoubleExtraStrong:
-            return picks.DblRndBut;
-        case SteelColumnKind::Tube:
-            break;
-    }
-    return picks.TubeCol[row.Tube];
-}
-
 /// The sizes of the catalogue, each once.
 std::vector<std::string_view> ColumnSizes()
 {
@@ -239,7 +224,7 @@ void Form10::ShowPicks()
     std::vector<ColumnPick> shown;
     for (std::size_t k = 0; k < PickRows.size(); ++k) {
         const PickRow& row = PickRows[k];
-        const std::string& pickSize = SizeOf(Columns().SteelPicks, row);
+        const std::string& pickSize = PickedSteelSize(Columns().SteelPicks, row.Kind, row.Tube);
         const std::string name = std::string(row.Spoken) + (pickSize.empty() ? ": none" : ", " + pickSize);
         shown.push_back({.Head = k < PipeHeads.size() ? std::string(PipeHeads[k]) : std::string{},
                          .Size = pickSize,

@@ -55,10 +55,10 @@ Form18::Form18(Walk& walk)
     : Form(walk, "Form18"),
       numbers{.User = walk.User(), .CalculatorText = [&walk] { return walk.CalculatorText(); }},
       context{
-          .Owner = *this, .Boxes = bindings, .Numbers = numbers, .Beam = walk.CurrentSession(), .Apply = {}},
-      editionShown(EditionNow())
+          .Owner = *this, .Boxes = bindings, .Numbers = numbers, .Beam = walk.CurrentSession(), .Apply = {}}
 {
     setWindowTitle(QStringLiteral(" Kordavan Column Criteria Form 1"));
+    FollowEdition(Columns(), EditionNow());
     Body().addLayout(MakeHead());
     studGroup = new StudGroup(context, Columns());
     connect(studGroup, &StudGroup::Changed, this, &Form18::Refresh);
@@ -78,12 +78,7 @@ Form18::Form18(Walk& walk)
 
 void Form18::Activate()
 {
-    const Edition now = EditionNow();
-    if (now != editionShown) {
-        ChangeColumnEdition(Columns().Entry, editionShown, now);
-        ChangeStudEdition(Columns().Stud, editionShown, now);
-        editionShown = now;
-    }
+    FollowEdition(Columns(), EditionNow());
     Refresh();
 }
 

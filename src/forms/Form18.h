@@ -55,7 +55,6 @@ private:
     Bindings bindings;
     NumericBoxContext numbers;
     GroupContext context;
-    Edition editionShown;
 
     QStackedWidget* pages = nullptr;
     ColumnLoadGroup* loadGroup = nullptr;

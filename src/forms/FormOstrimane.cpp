@@ -20,11 +20,10 @@ FormOstrimane::FormOstrimane(Walk& walk)
     : Form(walk, "FormOstrimane"),
       numbers{.User = walk.User(), .CalculatorText = [&walk] { return walk.CalculatorText(); }},
       context{
-          .Owner = *this, .Boxes = bindings, .Numbers = numbers, .Beam = walk.CurrentSession(), .Apply = {}},
-      editionShown(EditionNow())
+          .Owner = *this, .Boxes = bindings, .Numbers = numbers, .Beam = walk.CurrentSession(), .Apply = {}}
 {
     setWindowTitle(QStringLiteral(" Kordavan Notch Check"));
-    Notch().Years = OpeningNotchYears(editionShown);
+    FollowEdition(Notch(), EditionInForce(TheSession().Nds));
     shownEntry = Notch().Entry;
     shownYears = Notch().Years;
     memberGroup = new NotchMemberGroup(context, Notch());
@@ -46,11 +45,7 @@ FormOstrimane::FormOstrimane(Walk& walk)
 
 void FormOstrimane::Activate()
 {
-    const Edition now = EditionNow();
-    if (now != editionShown) {
-        Notch().Years = OpeningNotchYears(now);
-        editionShown = now;
-    }
+    FollowEdition(Notch(), EditionInForce(TheSession().Nds));
     Refresh();
 }
 

@@ -35,7 +35,6 @@ private:
     void OrderTabs();
 
     NotchSession& Notch() { return TheWalk().Notch(); }
-    Edition EditionNow() { return EditionInForce(TheSession().Nds); }
 
     /// Shows the session as it stands, with what the last edit brings with it.
     void Refresh();
@@ -44,7 +43,6 @@ private:
     Bindings bindings;
     NumericBoxContext numbers;
     GroupContext context;
-    Edition editionShown;
     NotchEntry shownEntry;
     NotchYears shownYears;
 

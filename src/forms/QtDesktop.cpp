@@ -3,10 +3,12 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDate>
+#include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
+#include <QLocale>
 #include <QMimeData>
 #include <QStandardPaths>
 #include <QUrl>
@@ -26,6 +28,12 @@ CalendarDay QtDesktop::Today()
 {
     const QDate today = QDate::currentDate();
     return {.Year = today.year(), .Month = today.month(), .Day = today.day()};
+}
+
+std::string QtDesktop::MomentInWords()
+{
+    return Text(QLocale::c().toString(QDateTime::currentDateTime(),
+                                      QStringLiteral("dddd, MMMM d, yyyy 'at' h:mm AP")));
 }
 
 int QtDesktop::MinutesSinceStart()

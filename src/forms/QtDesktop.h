@@ -13,6 +13,7 @@ public:
     QtDesktop();
 
     CalendarDay Today() override;
+    std::string MomentInWords() override;
     int MinutesSinceStart() override;
     bool OpenFileExplorer() override;
     void EndProgram() override;

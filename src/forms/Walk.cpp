@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScreen>
 
+#include "columns/ColumnCriteria.h"
 #include "design/NewBeam.h"
 #include "forms/EntryDiagram.h"
 #include "forms/Form1.h"
@@ -25,6 +26,9 @@
 #include "forms/FormOstrimane.h"
 #include "forms/NotchReport.h"
 #include "forms/NumericBox.h"
+#include "forms/RecoveryWatch.h"
+#include "forms/ResumeWalk.h"
+#include "notch/NotchEdits.h"
 #include "records/ColumnDesk.h"
 #include "records/DefaultsFile.h"
 #include "records/RecentFiles.h"
@@ -47,7 +51,12 @@ void FrontUser::Tell(const Message& message)
 
 Walk::Walk(Session& currentSession, ColumnSession& currentColumns, NotchSession& currentNotch, UserPort& user,
            DesktopPort& desk)
-    : session(currentSession), columns(currentColumns), notch(currentNotch), desktop(desk), frontUser(user)
+    : session(currentSession),
+      columns(currentColumns),
+      notch(currentNotch),
+      desktop(desk),
+      frontUser(user),
+      recovery(std::make_unique<RecoveryWatch>(*this, WorkAtHand{session, columns, notch}))
 {
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*old*/, QWidget* now) { RememberBox(now); });
@@ -58,7 +67,19 @@ Walk::~Walk() = default;
 void Walk::Start()
 {
     LoadDefaults(session, DefaultsPath(), frontUser);
-    Go(Screen::Criteria);
+    FollowEdition(columns, EditionInForce(session.Nds));
+    FollowEdition(notch, EditionInForce(session.Nds));
+    if (const std::optional<std::string> form = recovery->Offer()) {
+        ResumeWalk(*this, *form);
+    } else {
+        Go(Screen::Criteria);
+    }
+    recovery->Begin();
+}
+
+std::string Walk::FormToResume() const
+{
+    return toResume == nullptr ? std::string{} : Text(toResume->objectName());
 }
 
 std::string Walk::DefaultsPath()
@@ -145,6 +166,9 @@ void Walk::Go(Screen screen)
     Form& next = FormOf(screen);
     Form* const left = front;
     front = &next;
+    if (screen != Screen::Print) {
+        toResume = front;
+    }
     frontUser.SetFront(front);
     next.Activate();
     if (session.CenterForms) {
@@ -199,6 +223,7 @@ void Walk::AskToExit()
 {
     const Message question = ExitQuestion(session, desktop.MinutesSinceStart(), UnsavedColumnWork(columns));
     if (frontUser.Ask(question)) {
+        recovery->End();
         desktop.EndProgram();
     }
 }

@@ -17,6 +17,7 @@ class QWidget;
 namespace kordavan {
 
 class Form;
+class RecoveryWatch;
 
 /// The screens by their names in the walk.
 enum class Screen {
@@ -75,8 +76,15 @@ public:
     UserPort& User() { return frontUser; }
     DesktopPort& Desktop() { return desktop; }
 
-    /// Reads the user's standing choices and shows the first screen.
+    /// Reads the user's standing choices and shows the first screen, or the one that was in front when the
+    /// program did not end properly, if its entries are wanted back.
     void Start();
+
+    RecoveryWatch& Recovery() { return *recovery; }
+
+    /// The name of the form to go on with after a crash: the one in front, or the record that is printed
+    /// there.
+    std::string FormToResume() const;
 
     /// The files of fixed name.
     std::string DefaultsPath();
@@ -130,7 +138,9 @@ private:
     FrontUser frontUser;
     std::map<Screen, std::unique_ptr<Form>> forms;
     Form* front = nullptr;
+    Form* toResume = nullptr;
     QPointer<QWidget> lastBox;
+    std::unique_ptr<RecoveryWatch> recovery;
 };
 
 }  // namespace kordavan

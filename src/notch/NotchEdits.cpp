@@ -20,6 +20,14 @@ Edition EditionOfNotch(const NotchYears& years)
     return EditionOfYear(std::to_string(years.NdsYear));
 }
 
+void FollowEdition(NotchSession& notch, Edition inForce)
+{
+    if (notch.YearsOf != inForce) {
+        notch.Years = OpeningNotchYears(inForce);
+        notch.YearsOf = inForce;
+    }
+}
+
 void FollowNotchEdit(NotchSession& notch, const NotchEntry& before, const NotchYears& yearsBefore)
 {
     NotchEntry& entry = notch.Entry;

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "core/NdsEdition.h"
 #include "design/DataSheet.h"
 #include "notch/NotchProblem.h"
 #include "notch/NotchResult.h"
@@ -19,6 +20,7 @@ struct EnteredNotchHeading {
 struct NotchSession {
     NotchEntry Entry;
     NotchYears Years;
+    std::optional<Edition> YearsOf;   // the edition in force that the years followed last
     std::optional<NotchRun> Run;      // the last one
     std::optional<NotchRun> Earlier;  // the last one with a result, where the last one has none
 

@@ -81,7 +81,7 @@ TEST(NotchTask, ComputesNothingWithoutARule)
 TEST(NotchTask, RefusesAsTheScreenDoesAndFillsNoFv)
 {
     const auto answer =
-        AnswerTo(R"("MaxVtextbox":1,"breadthtextbox":1,"depthtextbox":1,"Species":"DF-L #2")");
+        NotchAnswer(R"("MaxVtextbox":1,"breadthtextbox":1,"depthtextbox":1,"Species":"DF-L #2")");
     EXPECT_STREQ(answer["status"].GetString(), "refused");
     EXPECT_STREQ(answer["refusal"]["focus"].GetString(), "Fvtextbox");
     EXPECT_FALSE(answer.HasMember("result") || answer.HasMember("labels"));

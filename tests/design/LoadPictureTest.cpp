@@ -146,7 +146,7 @@ TEST(LoadPicture, ShowsTheRoofOverAHipAsItIsTyped)
     loads.UNIF = "145.176803394625";
     EXPECT_EQ(
         DescribePicture(ReadLoadPicture(session)),
-        "Hip or valley of 12.0 ft, the load rising from R1 to R2. UniformKind load beside it: 20 plf, live 0 "
+        "Hip or valley of 12.0 ft, the load rising from R1 to R2. Uniform load beside it: 20 plf, live 0 "
         "over the whole span. Roof load: 40 psf, live 25, rising from R1 to R2. Equivalent uniform load: "
         "145.1768 plf.");
 }

@@ -57,6 +57,7 @@ public:
 class ScriptedDesktop : public DesktopPort {
 public:
     CalendarDay Today() override { return {.Year = 2026, .Month = 3, .Day = 7}; }
+    std::string MomentInWords() override { return "Saturday, March 7, 2026 at 2:32 PM"; }
     int MinutesSinceStart() override { return 12; }
     bool OpenFileExplorer() override { return ++ExplorersOpened > 0; }
     void EndProgram() override { HasEnded = true; }
