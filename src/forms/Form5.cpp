@@ -23,15 +23,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view Page =
-    "TEST REPORT\n\n"
-    "The report shows what the loads ask of the member and what it has. OK means that it passes, Fail that "
-    "it does not.\n\n"
-    "The buttons at the bottom step to the next size without going back: + and - step the depth, with Ctrl "
-    "the breadth, and from steel shape to shape. The rows keep their places, so that sizes can be "
-    "compared.\n\n"
-    "OK  Select Member, or Enter, puts the member on record. Esc leads back to the selection.";
-
 void Enlarge(QLabel& label)
 {
     constexpr double larger = 1.5;
@@ -208,7 +199,7 @@ void Form5::BuildMenus()
                "&Data Record", [this] { OnSelectMember(); });
     AddDiagramCommand(goTo);
     AddToolsMenu();
-    AddHelpMenu(Page);
+    AddHelpMenu(GuidePage::Report);
     QAction* const back = menuBar()->addAction(QStringLiteral("&Back"));
     back->setObjectName(QStringLiteral("backmnu"));
     back->setStatusTip(QStringLiteral("Back to the selection (Esc)"));
