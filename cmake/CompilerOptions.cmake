@@ -20,6 +20,9 @@ endif()
 # Debug, release and every processor agree on a member that passes by a hair.
 target_compile_options(kordavan_options INTERFACE -ffp-contract=off)
 
+# The table of addresses of a released program cannot be written.
+target_link_options(kordavan_options INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+
 if(KORDAVAN_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_compile_options(${sanitizers})

@@ -2,18 +2,6 @@
 
 namespace kordavan::ColumnHelp {
 
-const std::string_view Page =
-    "COLUMN CRITERIA\n\n"
-    "Choose what is to be sized: a wood column, a steel column, or a wall stud that carries axial load and "
-    "wind.\n\n"
-    "Wood: enter load, height and bracing, choose how the column is made up and its species, and press Enter "
-    "or OK Calculate. The next screen shows the smallest width that works with each thickness, and tests any "
-    "size.\n"
-    "Steel: the load, the height, K and one unbraced length are all that counts.\n"
-    "Studs under wind: the stud is checked on this screen; Report shows its record.\n\n"
-    "The weight of a column is not added: include it in the axial load where it matters. The sketch follows "
-    "what you type. Insert takes the number from the calculator. Esc leads back to the beam criteria.";
-
 const HelpText AxialLoad{
     "LoadHelp", "Axial load",
     "AXIAL LOAD\n\n"

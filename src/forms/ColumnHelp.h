@@ -4,8 +4,6 @@
 
 namespace kordavan::ColumnHelp {
 
-extern const std::string_view Page;
-
 extern const HelpText AxialLoad;
 extern const HelpText BucklingMode;
 extern const HelpText UnbracedLengths;

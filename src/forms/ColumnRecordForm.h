@@ -20,7 +20,7 @@ struct ColumnRecordScreen {
     Screen Selection;  // that the record was selected on
     std::string_view SaveCommand;
     std::string_view LoadCommand;
-    std::string_view Page;  // of the help
+    GuidePage Page;
 };
 
 /// The record of a wood or steel column: one sheet of the size selected, or of a file.

@@ -112,7 +112,7 @@ void ColumnSelectionForm::BuildFoot(std::string_view select, QPushButton* test)
     Foot().addWidget(testButton);
 }
 
-void ColumnSelectionForm::BuildMenus(std::string_view page)
+void ColumnSelectionForm::BuildMenus(GuidePage page)
 {
     AddExitCommand(AddMenu("&File"));
     QMenu& goTo = AddMenu("&Go to");

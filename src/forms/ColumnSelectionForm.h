@@ -45,7 +45,7 @@ protected:
 
     /// @param select  the name of the button that puts the size on record
     void BuildFoot(std::string_view select, QPushButton* test);
-    void BuildMenus(std::string_view page);
+    void BuildMenus(GuidePage page);
 
     void ShowFacts(const std::vector<std::string>& facts);
 

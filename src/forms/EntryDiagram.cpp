@@ -183,7 +183,7 @@ EntryDiagram::EntryDiagram(Walk& theWalk, EntryDiagramKind kind)
 {
     const DiagramContent& content = ContentOf(kind);
     setWindowTitle(Text(content.Title));
-    AddHelpMenu(content.Description);
+    AddHelpMenu(kind == EntryDiagramKind::HipValley ? GuidePage::Hips : GuidePage::Loads);
     Body().addWidget(new Diagram(kind), 1);
     for (const QString& line : Text(content.Lines).split(QLatin1Char('\n'))) {
         auto* const label = new QLabel(line);

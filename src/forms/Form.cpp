@@ -167,12 +167,15 @@ void Form::TellHelp(std::string_view text)
     User().Tell(Marked(Alert(text), MessageIcon::Information));
 }
 
-void Form::AddHelpMenu(std::string_view page)
+void Form::AddHelpMenu(GuidePage page)
 {
-    pageText = page;
+    guidePage = page;
     QMenu& menu = AddMenu("&Help");
     AddCommand(
-        menu, {"MnuHelp"}, "&This Form", [this] { TellHelp(pageText); }, QKeySequence(Qt::Key_F1));
+        menu, {"MnuHelp", "The page of the user guide about this form"}, "&This Form",
+        [this] { currentWalk.ShowGuide(Guide(), *this); }, QKeySequence(Qt::Key_F1));
+    AddCommand(menu, {"MnuGuide", "The contents of the user guide"}, "&User Guide",
+               [this] { currentWalk.ShowGuide(GuidePage::Contents, *this); });
     const QList<HelpButton*> buttons = findChildren<HelpButton*>();
     if (!buttons.isEmpty()) {
         menu.addSeparator();
@@ -257,7 +260,7 @@ void Form::HelpOnFocus()
             return;
         }
     }
-    TellHelp(pageText);
+    currentWalk.ShowGuide(Guide(), *this);
 }
 
 }  // namespace kordavan

@@ -5,6 +5,7 @@
 #include <functional>
 #include <string_view>
 
+#include "forms/GuidePages.h"
 #include "forms/HelpButton.h"
 #include "forms/HelpTexts.h"
 #include "forms/Kit.h"
@@ -20,8 +21,8 @@ namespace kordavan {
 /// What every form has: menus, a body that scrolls when the window is too small for it, a foot that never
 /// does with its result on the left and its commands on the right, and the keys that all forms share.
 ///
-/// Enter presses the default command, Esc goes back, F1 tells about the form, Shift+F1 about the box in
-/// focus.
+/// Enter presses the default command, Esc goes back, F1 opens the guide at the page of the form, Shift+F1
+/// tells about the box in focus.
 class Form : public QMainWindow {
     Q_OBJECT
 
@@ -30,6 +31,9 @@ public:
 
     /// Called by the walk each time the form comes to the front.
     virtual void Activate() {}
+
+    /// The page of the guide that tells about the form as it stands.
+    virtual GuidePage Guide() { return guidePage; }
 
     /// Called by the walk while the notes beside the form are typed.
     virtual void ShowNotes() {}
@@ -73,8 +77,9 @@ protected:
     /// Tells a text of the program's own help.
     void TellHelp(std::string_view text);
 
-    /// A menu of all help buttons of the form, behind the page of the form itself.
-    void AddHelpMenu(std::string_view page);
+    /// A menu of all help buttons of the form, behind the guide.
+    /// @param page  of the guide, about the form
+    void AddHelpMenu(GuidePage page);
 
     /// The button that Enter presses.
     virtual QAbstractButton* DefaultCommand() { return nullptr; }
@@ -98,7 +103,7 @@ private:
     QVBoxLayout* body;
     QWidget* footArea;
     QHBoxLayout* foot;
-    std::string_view pageText;
+    GuidePage guidePage = GuidePage::Contents;
 };
 
 }  // namespace kordavan

@@ -39,15 +39,6 @@ constexpr int MostProject = 35;
 constexpr int MostItem = 25;
 constexpr int MostDescription = 30;
 
-constexpr std::string_view Page =
-    "CRITERIA\n\n"
-    "Enter the span, the limits and the loads of the beam, choose its material and press Enter or OK "
-    "Calculate. LL is the live load, LL+DL the total of live and dead load; the weight of the beam is added "
-    "by itself. The sketch follows what you type; click a load in it to go to its row.\n\n"
-    "The small gray squares explain what they stand beside; Shift+F1 presses the one of the box you are in. "
-    "Insert takes the number from the calculator. Ctrl+Delete empties a row of loads, Ctrl+Shift+Delete the "
-    "whole table.";
-
 Screen DiagramOf(SupportCondition support)
 {
     switch (support) {
@@ -99,6 +90,20 @@ void Form1::Activate()
 {
     RestoreEntries(TheSession());
     Refresh();
+}
+
+GuidePage Form1::Guide()
+{
+    switch (TheSession().Problem.Support) {
+        case SupportCondition::HipValley:
+            return GuidePage::Hips;
+        case SupportCondition::MultipleSpans:
+            return GuidePage::MultipleSpans;
+        case SupportCondition::SimpleSpan:
+        case SupportCondition::Overhanging:
+            break;
+    }
+    return GuidePage::Criteria;
 }
 
 QAbstractButton* Form1::DefaultCommand()
@@ -226,7 +231,7 @@ void Form1::MakeMenus()
         goTo, {"MnuNotch", "The shear at the notched end of a wood member"}, "&Notch Check",
         [this] { TheWalk().Go(Screen::Notch); }, QKeySequence(Qt::Key_F6));
     AddToolsMenu();
-    AddHelpMenu(Page);
+    AddHelpMenu(GuidePage::Criteria);
 }
 
 void Form1::MakeFileMenu()

@@ -34,6 +34,7 @@ public:
     explicit Form1(Walk& walk);
 
     void Activate() override;
+    GuidePage Guide() override;
 
 protected:
     QAbstractButton* DefaultCommand() override;

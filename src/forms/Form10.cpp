@@ -21,15 +21,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view Page =
-    "STEEL COLUMN SELECTION\n\n"
-    "The quick picks are the first size of each kind of pipe that carries the load with something to spare, "
-    "and the first three of the square tubes. Click one, or go to it with the arrow keys and press Enter or "
-    "Space: it fills the boxes and is reported on.\n\n"
-    "Any other size can be typed into Size with its type and grade, exactly as the list behind the small gray "
-    "square writes them, and reported on by Report, or Enter; the Down key shows the texts that a box takes.\n\n"
-    "OK  Select Column puts the size of the report on record. Esc leads back to the criteria of the column.";
-
 constexpr std::string_view WhatToDo =
     "Click a quick pick, or enter a size with its type and grade and press Report: the full report stands "
     "here.";
@@ -137,7 +128,7 @@ Form10::Form10(Walk& theWalk)
                    "&Report");
     connect(report, &QPushButton::clicked, this, &Form10::OnReport);
     BuildFoot("CmdStlRecord", report);
-    BuildMenus(Page);
+    BuildMenus(GuidePage::SteelColumnSizes);
     connect(&boxes, &Bindings::Edited, this, [this] {
         picked.reset();
         isOutdated = true;

@@ -27,16 +27,6 @@ constexpr std::array<ControlText, DiagramParts.size()> PlotTexts{
 constexpr std::string_view PictureKinds =
     "A picture is saved as PNG or SVG. Please end its name with .png or .svg.";
 
-constexpr std::string_view Page =
-    "LOAD DIAGRAM\n\n"
-    "The beam as it was calculated last, with its shear, moment and deflection, on one axis of feet from R1. "
-    "Moments above the line bend the beam downwards. The weight of a member counts once one has been tested; "
-    "its deflection is the elastic one, without creep.\n\n"
-    "Click a plot, or press Left and Right in it, to read the curves at a place; with Shift in larger steps, "
-    "Home and End go to the ends. Live load shows the live loads alone.\n\n"
-    "Copy puts picture and words on the clipboard (Ctrl+C), Save Picture keeps the picture as PNG or SVG "
-    "(Ctrl+S). The next calculation closes the diagram.";
-
 }  // namespace
 
 Form11::Form11(Walk& theWalk) : BesideForm(theWalk, "Form11")
@@ -46,7 +36,7 @@ Form11::Form11(Walk& theWalk) : BesideForm(theWalk, "Form11")
     AddPlots();
     AddPeaks();
     AddCommands();
-    AddHelpMenu(Page);
+    AddHelpMenu(GuidePage::LoadDiagram);
     ShowDiagram();
     plots.front()->setFocus();
 }

@@ -28,15 +28,6 @@ constexpr std::string_view HelpOnSettings =
     "Enter a report header and make selections that you want automatically set when you start Kordavan.\n\n"
     "These settings are kept in a file called Kordavan201.ini located in your Kordavan Software Directory.";
 
-constexpr std::string_view Page =
-    "DEFAULT SETTINGS\n\n"
-    "What you enter here is there each time Kordavan starts: the two lines at the head of your print-outs "
-    "and your initials, the material and the NDS edition to begin with, the font, and the pairs of loads "
-    "that the PLF and PSF buttons of Form 1 step through.\n\n"
-    "An edition is in force as soon as you select it. 'Save as Defaults', or Enter, keeps it with "
-    "everything else for the next start; 'Close', or Esc, leaves what was saved as it is, and the edition "
-    "selected until you end the program.";
-
 /// The characters that the settings file has room for.
 int MostCharacters(std::string_view field)
 {
@@ -190,7 +181,7 @@ void Form13::MakeMenus()
 {
     AddExitCommand(AddMenu("&File"));
     AddToolsMenu();
-    AddHelpMenu(Page);
+    AddHelpMenu(GuidePage::Settings);
 }
 
 void Form13::OrderTabs()

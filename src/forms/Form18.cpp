@@ -14,7 +14,6 @@
 #include "columns/SteelColumn.h"
 #include "columns/StudColumn.h"
 #include "columns/StudCriteria.h"
-#include "forms/ColumnHelp.h"
 #include "forms/ColumnLoadGroup.h"
 #include "forms/ColumnSketch.h"
 #include "forms/ColumnValuesGroup.h"
@@ -80,6 +79,19 @@ void Form18::Activate()
 {
     FollowEdition(Columns(), EditionNow());
     Refresh();
+}
+
+GuidePage Form18::Guide()
+{
+    switch (Columns().Face) {
+        case ColumnFace::Wood:
+            return GuidePage::WoodColumns;
+        case ColumnFace::Steel:
+            return GuidePage::SteelColumns;
+        case ColumnFace::Studs:
+            return GuidePage::Studs;
+    }
+    return GuidePage::WoodColumns;
 }
 
 /// From within the frame that asks for a reaction, Enter takes it.
@@ -183,7 +195,7 @@ void Form18::MakeMenus()
     AddCommand(goTo, {"MnuCriteria", "The entries of the beam"}, "Beam &Criteria",
                [this] { TheWalk().Go(Screen::Criteria); });
     AddToolsMenu();
-    AddHelpMenu(ColumnHelp::Page);
+    AddHelpMenu(GuidePage::WoodColumns);
 }
 
 void Form18::MakeFileMenu()

@@ -27,6 +27,7 @@ public:
 
     /// Values picked from the tables are brought to the edition in force.
     void Activate() override;
+    GuidePage Guide() override;
 
 protected:
     QAbstractButton* DefaultCommand() override;

@@ -19,15 +19,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view Page =
-    "SCL AND CUSTOM VALUES\n\n"
-    "Composite lumber: choose the product and enter the design values that its maker publishes. Save keeps "
-    "them for this product; Load brings them back.\n\n"
-    "Custom wood: choose Rectangular and a family of breadths, or Round and a diameter; then enter the "
-    "values and what the record shall call the member. Save Values keeps them under a name.\n\n"
-    "Enter Values takes the values and shows, for each breadth, the smallest depth that passes. Pick one, "
-    "or type any breadth and depth, and press Enter or OK Test. Esc leads back to the criteria.";
-
 constexpr int SizeDigits = 12;
 
 /// A diameter is a size, not a value.
@@ -150,7 +141,7 @@ void Form2::BuildMenus()
     AddCommand(file, {"MnuSaveCustom", "Saves the values of custom wood under a name"}, "&Save Values...",
                [this] { SaveFile(); });
     AddExitCommand(file);
-    BuildOtherMenus(Page);
+    BuildOtherMenus(GuidePage::OwnSections);
 }
 
 void Form2::OrderTabs()

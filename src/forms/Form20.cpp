@@ -15,14 +15,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view Page =
-    "WOOD COLUMN SELECTION\n\n"
-    "Under each thickness D1 stands the smallest width D2 that carries the load, nominal. Click one, or go to "
-    "it with the arrow keys and press Enter or Space: it fills the boxes with its net inches and is tested.\n\n"
-    "Any other size can be typed into D1 and D2, in net inches, and tested by OK Test, or Enter. D1 is the "
-    "thickness, which all plies of a built-up column make up together; D2 is the width of a ply.\n\n"
-    "OK  Select Column puts the size tested last on record. Esc leads back to the criteria of the column.";
-
 constexpr std::string_view WhatToDo =
     "Click a quick pick, or enter a size of your own in net inches and press OK Test: the full report stands "
     "here.";
@@ -66,7 +58,7 @@ Form20::Form20(Walk& theWalk)
         {.Name = "CmdTestCol", .Tip = "Tests the size in the boxes and shows the report"}, "&OK Test");
     connect(test, &QPushButton::clicked, this, &Form20::OnTest);
     BuildFoot("CmdColRecord", test);
-    BuildMenus(Page);
+    BuildMenus(GuidePage::WoodColumnSizes);
     connect(&boxes, &Bindings::Edited, this, [this] {
         picked.reset();
         isOutdated = true;

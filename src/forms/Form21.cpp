@@ -20,13 +20,6 @@ constexpr int RuleWidth = 1;
 constexpr int FocusRuleWidth = 2;
 constexpr double LinePitch = 1.75;  // of the height of the letters
 
-constexpr std::string_view PageText =
-    "NOTE CLIPBOARD\n\n"
-    "Seven lines of notes of your own for the foot of the data record, 85 characters each. What you type is "
-    "kept as you type it; the number at the right tells how many characters still fit.\n\n"
-    "Down and Up go from line to line, Alt with its number goes to a line. 'Clear Notes' empties all seven; "
-    "Ctrl+Z brings the text of a line back.";
-
 QString NumberOf(std::size_t number)
 {
     return Text(PlainNumber(static_cast<double>(number)));
@@ -39,7 +32,7 @@ Form21::Form21(Walk& theWalk) : BesideForm(theWalk, "Form21")
     setWindowTitle(QStringLiteral("Note Clipboard"));
     AddPage();
     AddCommands();
-    AddHelpMenu(PageText);
+    AddHelpMenu(GuidePage::Notes);
     boxes.Show();
     connect(&boxes, &Bindings::Edited, this, [this] { TheWalk().ShowNotes(); });
     lines.front().Box->setFocus();

@@ -17,15 +17,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view Page =
-    "STEEL SELECTION\n\n"
-    "The list shows the shapes of the family that pass bending, shear and deflection, in the order of the "
-    "database: up to sixteen, eight to a page. Page Down and Page Up turn the page.\n\n"
-    "Click a shape, or go to it with the arrow keys and press Enter, and it is tested. Any other size of the "
-    "family can be typed into the box below the list, exactly as its example is written; Database lists "
-    "them all.\n\n"
-    "Nothing is selected before it is tested: click OK Test, or press Enter. Esc leads back to the criteria.";
-
 constexpr HelpText UnbracedHelp{"Command3D1", "Lc and Lu lengths", SteelScreenTexts::UnbracedHelp};
 constexpr HelpText FormatHelp{"Command3D2", "Format of a size", SteelScreenTexts::FormatHelp};
 
@@ -205,7 +196,7 @@ void Form22::BuildFoot()
 void Form22::BuildMenus()
 {
     AddExitCommand(AddMenu("&File"));
-    BuildOtherMenus(Page);
+    BuildOtherMenus(GuidePage::Steel);
 }
 
 void Form22::ShowTexts()
@@ -296,6 +287,8 @@ void Form22::ShowDatabase()
         boxes.Show();
         okButton->setFocus(Qt::OtherFocusReason);
     });
+    connect(new QShortcut(Qt::Key_F1, dialog), &QShortcut::activated, this,
+            [this, dialog] { TheWalk().ShowGuide(Guide(), *dialog); });
     dialog->open();
 }
 

@@ -59,18 +59,6 @@ constexpr std::array KeyCaps{
 };
 static_assert(KeyCaps.size() % KeysInRow == 0);
 
-constexpr std::string_view PageText =
-    "CALCULATOR\n\n"
-    "Works on screen or from the keyboard; operations are taken in the order they are pressed. Insert, or "
-    "the Insert key, puts the value into the box that you were in last.\n\n"
-    "FEET AND INCHES\n"
-    "Type a length as drawings write it, and it becomes feet and decimals with the next operation:\n"
-    "13' 3-1/2\"  is  13.2917\n"
-    "13' 3.5\"  is  13.2917\n"
-    "42\"  is  3.5\n"
-    "After a foot mark the keys - / and space belong to the length until its inch mark closes it. A length "
-    "in whole feet, such as 8', may be followed by + or x at once.";
-
 /// What a key of the keyboard means; none for a key that the machine has not.
 std::optional<KeyMeaning> MeaningOf(const QKeyEvent& event)
 {
@@ -116,7 +104,7 @@ Form25::Form25(Walk& theWalk) : BesideForm(theWalk, "Form25")
     AddDisplay();
     AddKeys();
     AddCommands();
-    AddHelpMenu(PageText);
+    AddHelpMenu(GuidePage::Calculator);
     ShowValue();
     display->setFocus();
 }

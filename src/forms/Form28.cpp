@@ -9,18 +9,6 @@
 
 namespace kordavan {
 
-namespace {
-
-constexpr std::string_view Page28 =
-    "STUD RECORD\n\n"
-    "The page for the building file: the stud with its wind and its moment, and what became of each check. "
-    "Print it, save it as a PDF, or copy it as text (Ctrl+Shift+C). It stands as the stud was calculated last, "
-    "whatever was entered since.\n\n"
-    "Save keeps the entries of the stud, so that they can be loaded and calculated again. Esc leads back to "
-    "them.";
-
-}  // namespace
-
 Form28::Form28(Walk& theWalk) : RecordForm(theWalk, "Form28")
 {
     setWindowTitle(QStringLiteral("Stud Record"));
@@ -38,7 +26,7 @@ void Form28::BuildMenus()
     AddCommand(goTo, {"MnuCriteria", "The entries of the columns"}, "Column &Criteria", [this] { GoBack(); });
     AddBackCommand(goTo, "Back to the entries of the stud (Esc)", "&Stud Entries");
     AddToolsMenu();
-    AddHelpMenu(Page28);
+    AddHelpMenu(GuidePage::ColumnRecords);
     AddBackToBar();
 }
 

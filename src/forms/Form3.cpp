@@ -13,15 +13,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view Page =
-    "WOOD SELECTION\n\n"
-    "Each quick pick is the smallest nominal depth of its breadth and species that passes bending, shear and "
-    "deflection. An empty place says why when the mouse rests on it.\n\n"
-    "Pick one with the mouse, or go to it with the arrow keys and press Enter or Space; it fills Breadth, "
-    "Depth and Species and grade. Any other size and grade can be typed there, exactly as the headings write "
-    "them; the Down key shows the texts that a box takes.\n\n"
-    "Nothing is selected before it is tested: click OK Test, or press Enter. Esc leads back to the criteria.";
-
 constexpr int SizeDigits = 10;
 constexpr int SpeciesDigits = 28;
 
@@ -114,7 +105,7 @@ void Form3::BuildMenus()
 {
     QMenu& file = AddMenu("&File");
     AddExitCommand(file);
-    BuildOtherMenus(Page);
+    BuildOtherMenus(GuidePage::WoodSelection);
 }
 
 void Form3::StartOver()

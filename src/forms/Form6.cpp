@@ -9,19 +9,6 @@
 
 namespace kordavan {
 
-namespace {
-
-constexpr std::string_view Page6 =
-    "DATA RECORD\n\n"
-    "The page for the building file: the member, its criteria, its loads and the results of its test. Print "
-    "it, save it as a PDF, or save it as a record that can be shown and printed again. To put it into "
-    "another program, choose Copy to Clipboard (Ctrl+Shift+C) and paste it there as text.\n\n"
-    "A record loaded from a file is only text; it cannot be calculated again. To change a beam later, save "
-    "its criteria on Form 1.\n\n"
-    "Esc leads back to the report, unless a loaded record is on show: the report is of another beam then.";
-
-}  // namespace
-
 Form6::Form6(Walk& theWalk) : RecordForm(theWalk, "Form6")
 {
     setWindowTitle(QStringLiteral(" Kordavan Data Record"));
@@ -55,7 +42,7 @@ void Form6::BuildMenus()
     AddDiagramCommand(goTo);
     AddBackCommand(goTo, "Back to the report (Esc)", "&Report Form3");
     AddToolsMenu();
-    AddHelpMenu(Page6);
+    AddHelpMenu(GuidePage::DataRecord);
     AddBackToBar();
 }
 

@@ -18,13 +18,6 @@ namespace kordavan {
 
 namespace {
 
-constexpr std::string_view PageHelp =
-    "PRINT\n\n"
-    "Head the page: two lines of your own at its top, the project, the beam, the date and your initials. The "
-    "preview follows what you type.\n\n"
-    "Print, or Enter, prints the page on the printer of Print Setup. Save as PDF needs no printer. Esc leads "
-    "back to the record.";
-
 constexpr std::string_view NoPrinter =
     "No printer is installed on this system. The page can be saved as a PDF.";
 
@@ -158,7 +151,7 @@ void Form7::BuildMenus()
     AddCommand(file, {"Mnusetup", "Printer, paper and copies"}, "Print Set&up...", [this] { OnSetup(); });
     AddCommand(file, {"MnuFont", "Font of the page"}, "&Font...", [this] { OnFont(); });
     AddCommand(file, {"MnuClose", "Back to the record (Esc)"}, "&Close", [this] { GoBack(); });
-    AddHelpMenu(PageHelp);
+    AddHelpMenu(GuidePage::Printing);
 }
 
 void Form7::Refresh()

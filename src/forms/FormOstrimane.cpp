@@ -90,7 +90,7 @@ void FormOstrimane::MakeMenus()
     AddCommand(goTo, {"MnuCriteria", "The entries of the beam"}, "Beam &Criteria Form 1",
                [this] { TheWalk().Go(Screen::Criteria); });
     AddToolsMenu();
-    AddHelpMenu(NotchHelp::Page);
+    AddHelpMenu(GuidePage::Notch);
 }
 
 void FormOstrimane::OrderTabs()

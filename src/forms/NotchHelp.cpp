@@ -2,17 +2,6 @@
 
 namespace kordavan::NotchHelp {
 
-const std::string_view Page =
-    "NOTCH CHECK\n\n"
-    "Checks the shear at the notched end of a wood member: cut on the tension side, cut on the compression "
-    "side, or tapered to a seat on a wall.\n\n"
-    "Enter the shear, the member and the notch, choose the NDS year and press Enter or OK Calculate. Under "
-    "NDS 1997 the shear stress at the notch is compared with Fv'; under NDS 2001 and 2005 the shear is compared "
-    "with the reaction that the notch allows. Whatever comes of the ratio, dn must not be less than the "
-    "minimum dn. Later editions have no rule here, and nothing is computed under them.\n\n"
-    "The sketch follows what you type. The figures fade as soon as an entry differs from those of the run. "
-    "Insert takes the number from the calculator. Esc leads back to the beam criteria.";
-
 const HelpText Shear{
     "ShearHelp", "Shear V",
     "SHEAR V\n\n"

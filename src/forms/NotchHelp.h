@@ -4,8 +4,6 @@
 
 namespace kordavan::NotchHelp {
 
-extern const std::string_view Page;
-
 extern const HelpText Shear;
 extern const HelpText Member;
 extern const HelpText BaseFv;

@@ -11,13 +11,6 @@ namespace {
 
 constexpr std::string_view NoSaving = "Cannot save this data record";
 
-constexpr std::string_view NotchReportHelp =
-    "NOTCH REPORT\n\n"
-    "The page for the building file: the notched member, the checks, what they rest on, and what was entered. "
-    "Print it, save it as a PDF, or copy it as text (Ctrl+Shift+C). It stands as the notch was calculated last, "
-    "whatever was entered since.\n\n"
-    "A notch has no file: the page is what can be kept. Esc leads back to its entries.";
-
 }  // namespace
 
 NotchReport::NotchReport(Walk& theWalk) : RecordForm(theWalk, "NotchReport")
@@ -31,7 +24,7 @@ void NotchReport::BuildMenus()
     AddPageCommands(AddMenu("&File"));
     AddBackCommand(AddMenu("&Go to"), "Back to the entries of the notch (Esc)", "&Notch Check");
     AddToolsMenu();
-    AddHelpMenu(NotchReportHelp);
+    AddHelpMenu(GuidePage::NotchReport);
     AddBackToBar();
 }
 

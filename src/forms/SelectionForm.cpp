@@ -33,7 +33,7 @@ void SelectionForm::ShowLoads(std::string_view moment, std::string_view firstRea
     loads[2]->setText(Text(secondReaction));
 }
 
-void SelectionForm::BuildOtherMenus(std::string_view page)
+void SelectionForm::BuildOtherMenus(GuidePage page)
 {
     QMenu& goTo = AddMenu("&Go to");
     AddCommand(goTo, {"backmnu", "Back to the criteria (Esc)"}, "&Back", [this] { GoBack(); });

@@ -25,7 +25,7 @@ protected:
     void ShowLoads(std::string_view moment, std::string_view firstReaction, std::string_view secondReaction);
 
     /// The menus behind the File menu.
-    void BuildOtherMenus(std::string_view page);
+    void BuildOtherMenus(GuidePage page);
 
     /// True the first time that it is asked after an analysis.
     bool TakeNewAnalysis();

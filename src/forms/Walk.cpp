@@ -24,6 +24,7 @@
 #include "forms/Form6.h"
 #include "forms/Form7.h"
 #include "forms/FormOstrimane.h"
+#include "forms/GuideForm.h"
 #include "forms/NotchReport.h"
 #include "forms/NumericBox.h"
 #include "forms/RecoveryWatch.h"
@@ -139,6 +140,8 @@ std::unique_ptr<Form> Walk::MakeForm(Screen screen)
             return std::make_unique<FormOstrimane>(*this);
         case Screen::NotchPage:
             return std::make_unique<NotchReport>(*this);
+        case Screen::Guide:
+            return std::make_unique<GuideForm>(*this);
     }
     return nullptr;
 }
@@ -189,6 +192,12 @@ void Walk::ShowBeside(Screen screen)
     form.show();
     form.raise();
     form.activateWindow();
+}
+
+void Walk::ShowGuide(GuidePage page, QWidget& asker)
+{
+    static_cast<GuideForm&>(FormOf(Screen::Guide)).Open(page, asker);
+    ShowBeside(Screen::Guide);
 }
 
 void Walk::RefreshBeside(Screen screen)

@@ -10,6 +10,7 @@
 #include "core/Message.h"
 #include "design/Session.h"
 #include "forms/DesktopPort.h"
+#include "forms/GuidePages.h"
 #include "notch/NotchSession.h"
 
 class QWidget;
@@ -42,7 +43,8 @@ enum class Screen {
     SteelColumnRecord,
     StudRecord,
     Notch,
-    NotchPage
+    NotchPage,
+    Guide
 };
 
 /// The person as the forms speak to them: what is told goes on to the desk, and afterwards the box that it
@@ -101,6 +103,9 @@ public:
 
     /// Shows a screen beside the one in front, which stays.
     void ShowBeside(Screen screen);
+
+    /// Shows a page of the user guide beside the window that it is asked from.
+    void ShowGuide(GuidePage page, QWidget& asker);
 
     /// Fills a screen that stands beside again, if it is seen.
     void RefreshBeside(Screen screen);

@@ -218,7 +218,7 @@ TEST_F(KeyboardTest, NoMnemonicStandsForTwo)
          {Screen::WoodSelection, Screen::SteelSelection, Screen::TestReport, Screen::Record, Screen::Settings,
           Screen::Notes, Screen::Calculator, Screen::SimpleDiagram, Screen::LoadDiagram, Screen::WoodColumns,
           Screen::SteelColumns, Screen::WoodColumnRecord, Screen::SteelColumnRecord, Screen::StudRecord,
-          Screen::Notch, Screen::NotchPage}) {
+          Screen::Notch, Screen::NotchPage, Screen::Guide}) {
         EXPECT_THAT(DoubledMnemonics(walk.FormOf(screen)), testing::IsEmpty());
     }
     for (const Screen record : {Screen::Record, Screen::WoodColumnRecord}) {
@@ -258,7 +258,8 @@ TEST_F(KeyboardTest, EveryControlHasANameOfItsOwnAndSaysWhatItIs)
                                 Screen::SteelColumnRecord,
                                 Screen::StudRecord,
                                 Screen::Notch,
-                                Screen::NotchPage}) {
+                                Screen::NotchPage,
+                                Screen::Guide}) {
         Form& form = walk.FormOf(screen);
         QMap<QString, QString> namesTaken;
         for (const QWidget* const control : form.findChildren<QWidget*>()) {
