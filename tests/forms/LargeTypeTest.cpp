@@ -283,7 +283,7 @@ TEST_P(LargeTypeTest, WhatStandsBesideCanBeRead)
     ExpectReadable(Screen::Settings);
     Calculate(Deck());
     for (const Screen screen : {Screen::LoadDiagram, Screen::Notes, Screen::Calculator, Screen::SimpleDiagram,
-                                Screen::OverhangDiagram, Screen::HipDiagram}) {
+                                Screen::OverhangDiagram, Screen::HipDiagram, Screen::Guide}) {
         walk.ShowBeside(screen);
         ExpectReadable(walk.FormOf(screen));
     }
