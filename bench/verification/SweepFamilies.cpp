@@ -165,7 +165,7 @@ SweepBeams Throughout(bool withWeight)
             }};
 }
 
-SweepGroup Overhangs()
+SweepGroup OverhangingBeams()
 {
     return {
         "Overhanging beam",
@@ -203,7 +203,7 @@ SweepGroup ContinuousSpans()
 
 std::vector<SweepGroup> RunSweep()
 {
-    return {SimpleSpans(), Overhangs(), ContinuousSpans()};
+    return {SimpleSpans(), OverhangingBeams(), ContinuousSpans()};
 }
 
 }  // namespace kordavan::Verification

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "design/NewBeam.h"
+#include "design/OverhangTip.h"
 #include "design/ReportNotes.h"
 #include "design/SectionPicture.h"
 #include "forms/NoteLine.h"
@@ -47,6 +48,10 @@ std::string LongestNoSplit()
     result.NoSplits = true;
     return NoSplitText(result);
 }
+
+constexpr std::string_view LongestTipWarning =
+    "The tip moves otherwise than this report says. By the exact elastic line: total load 12.00 in. up of "
+    "12.00 in. allowed, live load 12.00 in. up of 12.00 in. allowed.";
 
 std::string LongestDeflectionAlert()
 {
@@ -147,6 +152,8 @@ void Form5::BuildNotes()
     AddNote(new NoteLine("DeadDefl", " ", NoteKind::Plain));
     AddNote(new NoteLine("SmallChoice", " ", NoteKind::Plain));
     AddNote(new NoteLine("DeflTooHigh", LongestDeflectionAlert(), NoteKind::Alert));
+    tip = new NoteLine("OverhangTip", LongestTipWarning, NoteKind::Alert);
+    AddNote(tip);
     AddNote(new NoteLine("NoSplitLabel", LongestNoSplit(), NoteKind::Alert));
     AddNote(unbalanced);
     Body().addStretch(1);
@@ -214,21 +221,24 @@ void Form5::ShowReport()
     }
     table->Show(report);
     sketch->Show(ReadSectionPicture(TheSession()));
+    const std::string tipWarning = OverhangTipWarning(TheSession());
+    tip->Tell(tipWarning);
     for (NoteLine* const note : notes) {
         note->Show();
     }
-    ShowOverall();
+    ShowOverall(!tipWarning.empty());
     stepping->Show(TheSession(), *selectButton);
     TheWalk().RefreshBeside(Screen::LoadDiagram);
 }
 
-void Form5::ShowOverall()
+/// @param isQualified  by a warning beside the verdict
+void Form5::ShowOverall(bool isQualified)
 {
     const MemberTestResult& result = TheSession().Member.Result;
     const bool fails = result.Overall == StatusFail;
     overall->setText(Text(OverallText(result)));
     PaintStatus(*overall, fails);
-    const Sign passes = result.NoSplits ? Sign::Alert : Sign::Passes;
+    const Sign passes = result.NoSplits || isQualified ? Sign::Alert : Sign::Passes;
     overallSign->Show(fails ? Sign::Fails : passes);
 }
 

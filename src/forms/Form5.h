@@ -45,7 +45,7 @@ private:
     void AddNote(NoteLine* note);
 
     void ShowReport();
-    void ShowOverall();
+    void ShowOverall(bool isQualified);
     void OnSizeStep(SizeStep step);
     void OnShapeStep(SteelStep step);
     void OnNewBeam();
@@ -53,6 +53,7 @@ private:
 
     std::array<QLabel*, TestReportFields.size()> fields{};
     std::vector<NoteLine*> notes;
+    NoteLine* tip = nullptr;
     ReportTable* table = nullptr;
     SectionSketch* sketch = nullptr;
     StepButtons* stepping = nullptr;

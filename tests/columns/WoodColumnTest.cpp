@@ -243,8 +243,8 @@ TEST(ColumnSearch, PicksTheFirstWidthThatPassesItsTest)
         ColumnProblem problem = Wood(1350, 1.6F, 8, 8);
         problem.Type = type;
         const std::string_view thickness = IsBuiltUp(type) ? "3" : "3.5";
-        for (float load = 500; load < 40000; load += 500) {
-            problem.Reaction = load;
+        for (int load = 500; load < 40000; load += 500) {
+            problem.Reaction = static_cast<float>(load);
             std::string_view expected;
             for (std::size_t k = 0; k < widths.size() && expected.empty(); ++k) {
                 expected =
