@@ -29,6 +29,7 @@ NotchStatusLine::NotchStatusLine()
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         label->setFocusPolicy(Qt::NoFocus);
     }
+    bar->setMinimumWidth(1);  // of large letters the words need all the room
     bar->setMaximumWidth(DigitsWidth(*bar, WidestBar));
     auto* const inner = new QHBoxLayout(verdict);
     inner->setContentsMargins(0, 0, 0, 0);
@@ -39,7 +40,7 @@ NotchStatusLine::NotchStatusLine()
     auto* const line = new QHBoxLayout(this);
     line->setContentsMargins(0, 0, 0, 0);
     line->addWidget(verdict);
-    line->addSpacing(DigitsWidth(*this, 2));
+    line->addSpacing(DigitsWidth(*this, 1));
     line->addWidget(changed);
     line->addStretch(1);
 }
