@@ -9,6 +9,7 @@
 #include "batch/BeamRun.h"
 #include "batch/RequestLine.h"
 #include "core/NumberText.h"
+#include "design/OverhangTip.h"
 #include "design/TestReport.h"
 
 namespace kordavan {
@@ -180,8 +181,8 @@ void WriteMember(const Session& session, ReportText& text)
     text.Captioned("", report.DeadDefl);
     text.Captioned("Supports", report.Label10);
     text.Captioned("", report.Label15);
-    for (const std::string& note :
-         {report.SmallChoice, report.DeflTooHigh, report.NoSplitLabel, report.Unbalancedlabel}) {
+    for (const std::string& note : {report.SmallChoice, report.DeflTooHigh, WarnOfOverhangTip(session).Text,
+                                    report.NoSplitLabel, report.Unbalancedlabel}) {
         text.Captioned("Advice", note);
     }
 }

@@ -15,6 +15,8 @@ struct TipDrop {
     double Exact = 0;
     double Allowed = 0;
 
+    bool Exceeds() const { return std::abs(Exact) > Allowed; }
+
     bool IsFarOff() const
     {
         constexpr double near = 1.05;
@@ -39,7 +41,7 @@ std::string DropText(std::string_view loads, const TipDrop& drop)
 
 }  // namespace
 
-std::string OverhangTipWarning(const Session& session)
+OverhangTipWarning WarnOfOverhangTip(const Session& session)
 {
     if (!session.Numbers.IsOverhanging() || !IsMemberTested(session)) {
         return {};
@@ -54,8 +56,9 @@ std::string OverhangTipWarning(const Session& session)
     if (!totalDrop.IsFarOff() && !liveDrop.IsFarOff()) {
         return {};
     }
-    return "The tip moves otherwise than this report says. By the exact elastic line: " +
-           DropText("total load", totalDrop) + ", " + DropText("live load", liveDrop) + ".";
+    return {.Text = "The tip moves otherwise than this report says. By the exact elastic line: " +
+                    DropText("total load", totalDrop) + ", " + DropText("live load", liveDrop) + ".",
+            .ExceedsAllowed = totalDrop.Exceeds() || liveDrop.Exceeds()};
 }
 
 }  // namespace kordavan

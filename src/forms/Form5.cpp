@@ -221,12 +221,12 @@ void Form5::ShowReport()
     }
     table->Show(report);
     sketch->Show(ReadSectionPicture(TheSession()));
-    const std::string tipWarning = OverhangTipWarning(TheSession());
-    tip->Tell(tipWarning);
+    const OverhangTipWarning tipWarning = WarnOfOverhangTip(TheSession());
+    tip->Tell(tipWarning.Text);
     for (NoteLine* const note : notes) {
         note->Show();
     }
-    ShowOverall(!tipWarning.empty());
+    ShowOverall(tipWarning.ExceedsAllowed);
     stepping->Show(TheSession(), *selectButton);
     TheWalk().RefreshBeside(Screen::LoadDiagram);
 }

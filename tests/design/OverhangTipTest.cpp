@@ -12,6 +12,7 @@ struct TipCase {
     std::string_view Name;
     std::function<void(BeamProblem&)> Loads;
     std::string_view Warning;
+    bool ExceedsAllowed = false;
 };
 
 class OverhangTipTest : public testing::TestWithParam<TipCase> {};
@@ -28,7 +29,9 @@ TEST_P(OverhangTipTest, IsToldWhereTheReportIsShortOfIt)
     GetParam().Loads(problem);
     Calculate(session);
     Tested(session, Member("6x", "12", "DF-L #1"));
-    EXPECT_EQ(OverhangTipWarning(session), GetParam().Warning);
+    const OverhangTipWarning warning = WarnOfOverhangTip(session);
+    EXPECT_EQ(warning.Text, GetParam().Warning);
+    EXPECT_EQ(warning.ExceedsAllowed, GetParam().ExceedsAllowed);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -40,7 +43,13 @@ INSTANTIATE_TEST_SUITE_P(
             "spread over the overhang",
             [](BeamProblem& problem) { SetPartial(problem, 3, "2000", "0", "4", "1200"); },
             "The tip moves otherwise than this report says. By the exact elastic line: total load 0.59 in. "
-            "of 0.40 in. allowed, live load 0.30 in. of 0.27 in. allowed."},
+            "of 0.40 in. allowed, live load 0.30 in. of 0.27 in. allowed.",
+            true},
+        // a fifth of it
+        TipCase{
+            "within the limits", [](BeamProblem& problem) { SetPartial(problem, 3, "400", "0", "4", "240"); },
+            "The tip moves otherwise than this report says. By the exact elastic line: total load 0.12 in. "
+            "of 0.40 in. allowed, live load 0.06 in. of 0.27 in. allowed."},
         TipCase{"at the tip", [](BeamProblem& problem) { SetPoint(problem, 4, "3000", "4", "2000"); }, ""},
         TipCase{"a simple span",
                 [](BeamProblem& problem) {
@@ -56,7 +65,7 @@ TEST(OverhangTip, HasNoWarningBeforeATest)
     session.Problem.Support = SupportCondition::Overhanging;
     SetPartial(session.Problem, 3, "2000", "0", "4", "1200");
     Calculate(session);
-    EXPECT_EQ(OverhangTipWarning(session), "");
+    EXPECT_EQ(WarnOfOverhangTip(session).Text, "");
 }
 
 }  // namespace
