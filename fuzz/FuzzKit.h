@@ -76,7 +76,7 @@ public:
     /// Puts a file of these bytes there.
     std::string Put(std::string_view name, std::string_view bytes) const
     {
-        const std::string path = (folder / name).string();
+        std::string path = (folder / name).string();
         std::ofstream file(path, std::ios::binary | std::ios::trunc);
         file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
         file.close();

@@ -268,7 +268,7 @@ void RandomUser::AnswerWhatWaits()
 /// sound entries now and then.
 void RandomUser::RunErrand(Form& front)
 {
-    const Errand& errand = AllErrands()[errandsRun % AllErrands().size()];
+    const Errand& errand = AllErrands[errandsRun % AllErrands.size()];
     if (front.objectName() == Text(errand.Form)) {
         ++errandsRun;
         WorkOn(front, errand);

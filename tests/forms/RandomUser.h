@@ -54,7 +54,7 @@ public:
     std::string CurrentPrinter() override { return current; }
     void UsePrinter(const std::string& name) override { current = name; }
     void AskSetup(QWidget& /*owner*/) override { current = chances.InHundred(50) ? "plotter" : "office"; }
-    std::optional<std::string> AskFont(QWidget& owner, const std::string& current) override;
+    std::optional<std::string> AskFont(QWidget& owner, const std::string& font) override;
     PrintEnd Print(const PrintJob& job) override;
 
 private:
